@@ -1,0 +1,121 @@
+/* pxls.h - Vector functions of libpxlia6.
+ *
+ * pxls<Stem>_<type>[_<descriptor>]: one-dimensional arrays, length counts
+ * elements; descriptors I (in place) and Sfs (scale factor, last).
+ *
+ * This file is generated from the family registry (tools/registry) by
+ * tools/pxlgen.py --write-headers; edit the registry, not this file. */
+#ifndef PXLS_H
+#define PXLS_H
+
+#include "pxldefs.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- pxlsAdd: src1 + src2, scaled by 2^-scale, rounded to nearest even and saturated */
+PXL_API PxlStatus PXL_CALL pxlsAdd_16s_Sfs(const Pxl16s* src1, const Pxl16s* src2, Pxl16s* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsAdd_16s_ISfs(const Pxl16s* src, Pxl16s* srcDst, int length,
+    int scale);
+PXL_API PxlStatus PXL_CALL pxlsAdd_32s_Sfs(const Pxl32s* src1, const Pxl32s* src2, Pxl32s* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsAdd_32s_ISfs(const Pxl32s* src, Pxl32s* srcDst, int length,
+    int scale);
+PXL_API PxlStatus PXL_CALL pxlsAdd_16sc_Sfs(const Pxl16sc* src1, const Pxl16sc* src2, Pxl16sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsAdd_16sc_ISfs(const Pxl16sc* src, Pxl16sc* srcDst, int length,
+    int scale);
+PXL_API PxlStatus PXL_CALL pxlsAdd_32sc_Sfs(const Pxl32sc* src1, const Pxl32sc* src2, Pxl32sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsAdd_32sc_ISfs(const Pxl32sc* src, Pxl32sc* srcDst, int length,
+    int scale);
+
+/* ---- pxlsAdd */
+PXL_API PxlStatus PXL_CALL pxlsAdd_32f(const Pxl32f* src1, const Pxl32f* src2, Pxl32f* dst,
+    int length);
+PXL_API PxlStatus PXL_CALL pxlsAdd_32f_I(const Pxl32f* src, Pxl32f* srcDst, int length);
+PXL_API PxlStatus PXL_CALL pxlsAdd_32fc(const Pxl32fc* src1, const Pxl32fc* src2, Pxl32fc* dst,
+    int length);
+PXL_API PxlStatus PXL_CALL pxlsAdd_32fc_I(const Pxl32fc* src, Pxl32fc* srcDst, int length);
+
+/* ---- pxlsAddC: src + value, scaled like Add */
+PXL_API PxlStatus PXL_CALL pxlsAddC_16sc_Sfs(const Pxl16sc* src, Pxl16sc value, Pxl16sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsAddC_16sc_ISfs(Pxl16sc value, Pxl16sc* srcDst, int length,
+    int scale);
+PXL_API PxlStatus PXL_CALL pxlsAddC_32sc_Sfs(const Pxl32sc* src, Pxl32sc value, Pxl32sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsAddC_32sc_ISfs(Pxl32sc value, Pxl32sc* srcDst, int length,
+    int scale);
+
+/* ---- pxlsAddC */
+PXL_API PxlStatus PXL_CALL pxlsAddC_32fc(const Pxl32fc* src, Pxl32fc value, Pxl32fc* dst,
+    int length);
+PXL_API PxlStatus PXL_CALL pxlsAddC_32fc_I(Pxl32fc value, Pxl32fc* srcDst, int length);
+
+/* ---- pxlsSub: src2 - src1 (in place: srcDst - src), scaled by 2^-scale, rounded to nearest even and saturated */
+PXL_API PxlStatus PXL_CALL pxlsSub_16s_Sfs(const Pxl16s* src1, const Pxl16s* src2, Pxl16s* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsSub_16s_ISfs(const Pxl16s* src, Pxl16s* srcDst, int length,
+    int scale);
+PXL_API PxlStatus PXL_CALL pxlsSub_32s_Sfs(const Pxl32s* src1, const Pxl32s* src2, Pxl32s* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsSub_32s_ISfs(const Pxl32s* src, Pxl32s* srcDst, int length,
+    int scale);
+PXL_API PxlStatus PXL_CALL pxlsSub_16sc_Sfs(const Pxl16sc* src1, const Pxl16sc* src2, Pxl16sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsSub_16sc_ISfs(const Pxl16sc* src, Pxl16sc* srcDst, int length,
+    int scale);
+PXL_API PxlStatus PXL_CALL pxlsSub_32sc_Sfs(const Pxl32sc* src1, const Pxl32sc* src2, Pxl32sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsSub_32sc_ISfs(const Pxl32sc* src, Pxl32sc* srcDst, int length,
+    int scale);
+
+/* ---- pxlsSub */
+PXL_API PxlStatus PXL_CALL pxlsSub_32f(const Pxl32f* src1, const Pxl32f* src2, Pxl32f* dst,
+    int length);
+PXL_API PxlStatus PXL_CALL pxlsSub_32f_I(const Pxl32f* src, Pxl32f* srcDst, int length);
+PXL_API PxlStatus PXL_CALL pxlsSub_32fc(const Pxl32fc* src1, const Pxl32fc* src2, Pxl32fc* dst,
+    int length);
+PXL_API PxlStatus PXL_CALL pxlsSub_32fc_I(const Pxl32fc* src, Pxl32fc* srcDst, int length);
+
+/* ---- pxlsSubC: src - value, scaled like Sub */
+PXL_API PxlStatus PXL_CALL pxlsSubC_16sc_Sfs(const Pxl16sc* src, Pxl16sc value, Pxl16sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsSubC_16sc_ISfs(Pxl16sc value, Pxl16sc* srcDst, int length,
+    int scale);
+PXL_API PxlStatus PXL_CALL pxlsSubC_32sc_Sfs(const Pxl32sc* src, Pxl32sc value, Pxl32sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsSubC_32sc_ISfs(Pxl32sc value, Pxl32sc* srcDst, int length,
+    int scale);
+
+/* ---- pxlsSubC */
+PXL_API PxlStatus PXL_CALL pxlsSubC_32f(const Pxl32f* src, Pxl32f value, Pxl32f* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsSubC_32f_I(Pxl32f value, Pxl32f* srcDst, int length);
+PXL_API PxlStatus PXL_CALL pxlsSubC_32fc(const Pxl32fc* src, Pxl32fc value, Pxl32fc* dst,
+    int length);
+PXL_API PxlStatus PXL_CALL pxlsSubC_32fc_I(Pxl32fc value, Pxl32fc* srcDst, int length);
+
+/* ---- pxlsMalloc: 32-byte aligned vector of length elements, or NULL */
+PXL_API Pxl8u* PXL_CALL pxlsMalloc_8u(int length);
+PXL_API Pxl8s* PXL_CALL pxlsMalloc_8s(int length);
+PXL_API Pxl16u* PXL_CALL pxlsMalloc_16u(int length);
+PXL_API Pxl16s* PXL_CALL pxlsMalloc_16s(int length);
+PXL_API Pxl32u* PXL_CALL pxlsMalloc_32u(int length);
+PXL_API Pxl32s* PXL_CALL pxlsMalloc_32s(int length);
+PXL_API Pxl32f* PXL_CALL pxlsMalloc_32f(int length);
+PXL_API Pxl64s* PXL_CALL pxlsMalloc_64s(int length);
+PXL_API Pxl16sc* PXL_CALL pxlsMalloc_16sc(int length);
+PXL_API Pxl32sc* PXL_CALL pxlsMalloc_32sc(int length);
+PXL_API Pxl32fc* PXL_CALL pxlsMalloc_32fc(int length);
+PXL_API Pxl64fc* PXL_CALL pxlsMalloc_64fc(int length);
+
+/* ---- pxlsFree: free a block of the allocators; NULL is ignored */
+PXL_API void PXL_CALL pxlsFree(void* ptr);
+
+#ifdef __cplusplus
+}
+#endif
+#endif /* PXLS_H */

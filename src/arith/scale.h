@@ -1,0 +1,230 @@
+// The integer scale rule of the arithmetic and the row kernels built on it.
+//
+// The exact result x of an operation is held in a lane wide enough that
+// nothing overflows (8u: 16 bits unsigned, 16u: 32 bits unsigned, 16s: 32
+// bits, 32s: 64 bits) and then, for scale s:
+//   s = 0   saturate x
+//   s > 0   x / 2^s rounded to nearest, ties to even, then saturate
+//   s < 0   x * 2^-s, then saturate
+// Past the type's limits the result no longer depends on the data: above the
+// upper limit the destination is filled with zero, below the lower limit
+// (Bound) only the sign of x matters. Each of these paths is its own kernel,
+// so the inner loops carry no branch on the scale.
+//
+// Every kernel is one lane expression used twice: on vectors for whole
+// blocks and on scalars for the tail. Both compute the same integers.
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+#include <utility>
+
+#include "frame/gates.h"
+#include "frame/types.h"
+#include "simd/vec.h"
+
+namespace pxl::arith {
+
+using simd::Elem;
+using simd::splat;
+
+enum class Path : std::uint8_t { Zero, One, Pos, Neg, Bound, Above, Single };
+
+constexpr PathBit bitOf(Path p) {
+  switch (p) {
+    case Path::Zero: return kPathZero;
+    case Path::One: return kPathOne;
+    case Path::Pos: return kPathPos;
+    case Path::Neg: return kPathNeg;
+    case Path::Bound: return kPathBound;
+    default: return kPathSingle;
+  }
+}
+
+// The lane type that holds an exact sum or difference of R.
+template <class R> struct Wide;
+template <> struct Wide<Pxl8u> { using type = std::uint16_t; };
+template <> struct Wide<Pxl16u> { using type = std::uint32_t; };
+template <> struct Wide<Pxl16s> { using type = std::int32_t; };
+template <> struct Wide<Pxl32s> { using type = std::int64_t; };
+template <> struct Wide<Pxl32f> { using type = float; };
+template <class R>
+using WideOf = typename Wide<R>::type;
+
+// Scales from neg to pos are computed; above pos the result is zero, below
+// neg it is the bound.
+struct ScaleLimits {
+  int pos;
+  int neg;
+};
+
+inline Path pathOf(int s, ScaleLimits l) {
+  if (s == 0) return Path::Zero;
+  if (s == 1) return Path::One;
+  if (s > 1) return s <= l.pos ? Path::Pos : Path::Above;
+  return s >= l.neg ? Path::Neg : Path::Bound;
+}
+
+template <class W, class R>
+inline W saturate(W x) {
+  using E = Elem<W>;
+  if constexpr (std::is_floating_point_v<E>) {
+    return x;
+  } else if constexpr (std::is_unsigned_v<E>) {
+    return simd::vmin(x, splat<W>(std::numeric_limits<R>::max()));
+  } else {
+    return simd::vmin(simd::vmax(x, splat<W>(std::numeric_limits<R>::min())),
+                      splat<W>(std::numeric_limits<R>::max()));
+  }
+}
+
+// The scale rule on one lane (scalar or vector) of exact values.
+template <Path P, class R, class W>
+inline W scaleRule(W x, int s) {
+  using E = Elem<W>;
+  if constexpr (P == Path::Single) {
+    return x;
+  } else if constexpr (P == Path::Zero) {
+    return saturate<W, R>(x);
+  } else if constexpr (P == Path::One) {
+    return saturate<W, R>((x + ((x >> 1) & splat<W>(1))) >> 1);
+  } else if constexpr (P == Path::Pos) {
+    const W half = splat<W>((E(1) << (s - 1)) - 1);
+    return saturate<W, R>((x + half + ((x >> s) & splat<W>(1))) >> s);
+  } else if constexpr (P == Path::Neg) {
+    return saturate<W, R>(simd::shiftLeft(x, -s));
+  } else {
+    static_assert(P == Path::Bound, "Above never reaches a kernel");
+    const W hi = splat<W>(std::numeric_limits<R>::max());
+    if constexpr (std::is_unsigned_v<E>) {
+      return simd::select<W>(x != splat<W>(0), hi, splat<W>(0));
+    } else {
+      const W lo = splat<W>(std::numeric_limits<R>::min());
+      return simd::select<W>(x > splat<W>(0), hi, simd::select<W>(x < splat<W>(0), lo, splat<W>(0)));
+    }
+  }
+}
+
+template <Path P>
+using PathC = std::integral_constant<Path, P>;
+
+// Calls f with the path as a compile-time constant. Float data has the one
+// path only, so nothing else is instantiated for it.
+template <class R, class F>
+inline void withPath(Path p, F&& f) {
+  if constexpr (std::is_floating_point_v<R>) {
+    (void)p;
+    f(PathC<Path::Single>{});
+  } else {
+    switch (p) {
+      case Path::Zero: f(PathC<Path::Zero>{}); break;
+      case Path::One: f(PathC<Path::One>{}); break;
+      case Path::Pos: f(PathC<Path::Pos>{}); break;
+      case Path::Neg: f(PathC<Path::Neg>{}); break;
+      case Path::Bound: f(PathC<Path::Bound>{}); break;
+      case Path::Single:
+      case Path::Above: break;
+    }
+  }
+}
+
+// ------------------------------------------------------------------ kernels
+// Op::exact(a, b) gives the exact result of the operation on wide lanes; the
+// second operand is the image that a subtraction subtracts from.
+
+template <class R>
+inline constexpr int kBlock = simd::kLanes<WideOf<R>>;
+
+template <class R>
+using WideVec = simd::Vec<WideOf<R>, kBlock<R>>;
+template <class R>
+using NarrowVec = simd::Vec<R, kBlock<R>>;
+
+template <class Op, Path P, class R>
+inline R lane(R a, R b, int s) {
+  using W = WideOf<R>;
+  return static_cast<R>(scaleRule<P, R>(Op::exact(W(a), W(b)), s));
+}
+
+template <class Op, Path P, class R>
+inline void blockBinary(const R* a, const R* b, R* d, int s) {
+  using WV = WideVec<R>;
+  using NV = NarrowVec<R>;
+  const WV x = Op::exact(simd::convert<WV>(simd::load<NV>(a)), simd::convert<WV>(simd::load<NV>(b)));
+  simd::store(d, simd::convert<NV>(scaleRule<P, R>(x, s)));
+}
+
+// Two operands, len samples.
+template <class Op, Path P, class R>
+void rowBinary(const R* a, const R* b, R* d, int len, int s) {
+  constexpr int N = kBlock<R>;
+  int i = 0;
+  for (; i + N <= len; i += N) blockBinary<Op, P>(a + i, b + i, d + i, s);
+  for (; i < len; ++i) d[i] = lane<Op, P>(a[i], b[i], s);
+}
+
+// The same in strict increasing address order, for rows whose destination
+// overlaps a source at another address.
+template <class Op, Path P, class R>
+void rowBinaryOrdered(const R* a, const R* b, R* d, int len, int s) {
+  for (int i = 0; i < len; ++i) d[i] = lane<Op, P>(a[i], b[i], s);
+}
+
+// A constant that repeats with period Period (one value per channel, or
+// re, im per complex sample), laid out so that any block can load it whole
+// starting from the phase it begins at.
+template <class R, int Period>
+struct Pattern {
+  static constexpr int kLen = Period * (kBlock<R> + 1);
+  R v[kLen];
+  explicit Pattern(const R* values) {
+    for (int i = 0; i < kLen; ++i) v[i] = values[i % Period];
+  }
+};
+
+// Constant operand: x = src (op) constant, len samples.
+template <class Op, Path P, class R, int Period>
+void rowConst(const R* src, const Pattern<R, Period>& pat, R* d, int len, int s) {
+  using WV = WideVec<R>;
+  using NV = NarrowVec<R>;
+  constexpr int N = kBlock<R>;
+  constexpr int step = N % Period;
+  int i = 0, phase = 0;
+  if constexpr (Period == 1) {
+    const WV c = splat<WV>(pat.v[0]);
+    for (; i + N <= len; i += N) {
+      const WV x = Op::exact(c, simd::convert<WV>(simd::load<NV>(src + i)));
+      simd::store(d + i, simd::convert<NV>(scaleRule<P, R>(x, s)));
+    }
+  } else {
+    for (; i + N <= len; i += N) {
+      const WV c = simd::convert<WV>(simd::load<NV>(pat.v + phase));
+      const WV x = Op::exact(c, simd::convert<WV>(simd::load<NV>(src + i)));
+      simd::store(d + i, simd::convert<NV>(scaleRule<P, R>(x, s)));
+      phase += step;
+      if (phase >= Period) phase -= Period;
+    }
+  }
+  for (; i < len; ++i) {
+    d[i] = lane<Op, P>(pat.v[phase], src[i], s);
+    if (++phase == Period) phase = 0;
+  }
+}
+
+// AC4 pixel loops: the first three samples of four (Parts parts each).
+template <class Op, Path P, class R, int Parts>
+void rowBinaryAC4(const R* a, const R* b, R* d, int width, int s) {
+  constexpr int stride = 4 * Parts, used = 3 * Parts;
+  for (int x = 0; x < width; ++x, a += stride, b += stride, d += stride)
+    for (int c = 0; c < used; ++c) d[c] = lane<Op, P>(a[c], b[c], s);
+}
+
+template <class Op, Path P, class R, int Parts>
+void rowConstAC4(const R* src, const R* values, R* d, int width, int s) {
+  constexpr int stride = 4 * Parts, used = 3 * Parts;
+  for (int x = 0; x < width; ++x, src += stride, d += stride)
+    for (int c = 0; c < used; ++c) d[c] = lane<Op, P>(values[c], src[c], s);
+}
+
+}  // namespace pxl::arith

@@ -1,0 +1,70 @@
+// The call frame shared by the image families: null checks, then sizes and
+// steps in the order that each family fixes, then the family's own checks.
+// The order is part of each family's contract, so it is held as data (Order)
+// and every member goes through the same helper instead of spelling it out.
+#pragma once
+
+#include "frame/types.h"
+
+namespace pxl {
+
+// N: null pointers (always first), S: sizes, T: steps.
+enum class Order : std::uint8_t { NS, NST, NTS };
+
+template <class... P>
+inline bool anyNull(const P*... p) {
+  return ((p == nullptr) || ...);
+}
+
+// Height before width, as the scaled arithmetic looks at them; both give the
+// same status, so the order is invisible to a caller.
+inline bool badSize(PxlSize roi) { return roi.height < 1 || roi.width < 1; }
+
+template <class... S>
+inline bool badStep(S... steps) {
+  return ((steps < 1) || ...);
+}
+
+// Sizes and steps in the family's order; steps are ignored under Order::NS.
+template <Order O, class... S>
+inline PxlStatus checkShape(PxlSize roi, S... steps) {
+  if constexpr (O == Order::NTS) {
+    if (badStep(steps...)) return pxlStsStep;
+  }
+  if (badSize(roi)) return pxlStsSize;
+  if constexpr (O == Order::NST) {
+    if (badStep(steps...)) return pxlStsStep;
+  }
+  return pxlStsOk;
+}
+
+// Channel folding: a C3 or C4 member that hands over to its C1 member looks
+// at the width only, and the C1 member does every other check. So such a
+// member reports a zero width even when a pointer is null.
+template <class F>
+inline PxlStatus foldToC1(PxlSize roi, int channels, F&& c1Member) {
+  if (roi.width < 1) return pxlStsSize;
+  roi.width *= channels;
+  return c1Member(roi);
+}
+
+// Keeps the first warning of a serial row loop; every row runs regardless.
+class FirstWarning {
+ public:
+  void add(PxlStatus s) {
+    if (status_ == pxlStsOk) status_ = s;
+  }
+  PxlStatus status() const { return status_; }
+
+ private:
+  PxlStatus status_ = pxlStsOk;
+};
+
+template <class F>
+inline PxlStatus serialRowsWithStatus(int height, F&& row) {
+  FirstWarning w;
+  for (int i = 0; i < height; ++i) w.add(row(i));
+  return w.status();
+}
+
+}  // namespace pxl

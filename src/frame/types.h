@@ -1,0 +1,45 @@
+// C++ view of the public types: layouts, sample traits and byte-step rows.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+
+#include "pxldefs.h"
+
+namespace pxl {
+
+enum class Lay : std::uint8_t { C1, C2, C3, C4, AC4 };
+
+// Samples stored per pixel.
+constexpr int channelsOf(Lay l) {
+  return l == Lay::C1 ? 1 : l == Lay::C2 ? 2 : l == Lay::C3 ? 3 : 4;
+}
+// Samples an operation touches per pixel: alpha of AC4 is left alone.
+constexpr int processedOf(Lay l) { return l == Lay::AC4 ? 3 : channelsOf(l); }
+
+// A complex sample is two parts that most arithmetic treats independently.
+template <class T>
+struct Sample {
+  using Part = T;
+  static constexpr int parts = 1;
+};
+template <> struct Sample<Pxl16sc> { using Part = Pxl16s; static constexpr int parts = 2; };
+template <> struct Sample<Pxl32sc> { using Part = Pxl32s; static constexpr int parts = 2; };
+template <> struct Sample<Pxl32fc> { using Part = Pxl32f; static constexpr int parts = 2; };
+template <> struct Sample<Pxl64fc> { using Part = Pxl64f; static constexpr int parts = 2; };
+
+template <class T>
+using PartOf = typename Sample<T>::Part;
+template <class T>
+inline constexpr bool kComplex = Sample<T>::parts == 2;
+
+// Row i of an image: steps are bytes and may be zero or negative.
+template <class T>
+inline T* rowAt(T* base, int step, int i) {
+  using B = std::conditional_t<std::is_const_v<T>, const char, char>;
+  return reinterpret_cast<T*>(reinterpret_cast<B*>(base) + std::ptrdiff_t(step) * i);
+}
+
+}  // namespace pxl

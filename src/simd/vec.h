@@ -1,0 +1,101 @@
+// One portable vector type for every instruction level.
+//
+// Kernels are written once against GCC/Clang vector extensions; the build's
+// instruction level decides the register width (16 bytes on baseline x86-64,
+// 32 bytes with AVX2) and the compiler emits the instructions. There is no
+// run-time dispatch. The same lane functions also compile for plain scalars,
+// so a kernel's block loop and its tail share one expression of the rule.
+#pragma once
+
+#include <cstring>
+#include <type_traits>
+
+namespace pxl::simd {
+
+#if defined(__AVX2__)
+inline constexpr int kBytes = 32;
+#else
+inline constexpr int kBytes = 16;
+#endif
+
+template <class T, int N>
+struct VecOf {
+  typedef T type __attribute__((vector_size(sizeof(T) * N)));
+};
+template <class T, int N>
+using Vec = typename VecOf<T, N>::type;
+
+// Lanes of T that fill one register of this build.
+template <class T>
+inline constexpr int kLanes = kBytes / int(sizeof(T));
+
+template <class V>
+struct ElemOf {
+  using type = std::remove_cv_t<std::remove_reference_t<decltype(std::declval<V>()[0])>>;
+};
+template <class V>
+using Elem = typename std::conditional_t<std::is_arithmetic_v<V>, std::common_type<V>, ElemOf<V>>::type;
+
+template <class V>
+inline constexpr bool kIsVector = !std::is_arithmetic_v<V>;
+
+template <class V, class T>
+inline V load(const T* p) {
+  V v;
+  std::memcpy(&v, p, sizeof v);
+  return v;
+}
+
+template <class T, class V>
+inline void store(T* p, const V& v) {
+  std::memcpy(p, &v, sizeof v);
+}
+
+template <class V, class S>
+inline V splat(S s) {
+  if constexpr (kIsVector<V>) {
+    return V{} + static_cast<Elem<V>>(s);
+  } else {
+    return static_cast<V>(s);
+  }
+}
+
+// Lane-wise conversion; narrowing truncates, so callers clamp first.
+template <class To, class From>
+inline To convert(From v) {
+  if constexpr (kIsVector<From>) {
+    return __builtin_convertvector(v, To);
+  } else {
+    return static_cast<To>(v);
+  }
+}
+
+template <class V>
+inline V select(decltype(std::declval<V>() < std::declval<V>()) m, V a, V b) {
+  return m ? a : b;
+}
+
+template <class V>
+inline V vmin(V a, V b) {
+  return a < b ? a : b;
+}
+
+template <class V>
+inline V vmax(V a, V b) {
+  return a > b ? a : b;
+}
+
+// Left shift that is defined for negative lanes: done on the unsigned twin.
+template <class V>
+inline V shiftLeft(V x, int n) {
+  using E = Elem<V>;
+  using U = std::make_unsigned_t<E>;
+  if constexpr (kIsVector<V>) {
+    using UV = Vec<U, int(sizeof(V) / sizeof(E))>;
+    return (V)((UV)x << n);
+  } else {
+    return static_cast<V>(static_cast<U>(x) << n);
+  }
+}
+
+}  // namespace pxl::simd

@@ -1,0 +1,158 @@
+"""The family registry's vocabulary.
+
+A family is a stem with its qualifiers, the sample types, layouts and name
+descriptors it comes in, and the C++ implementation its members call. The
+naming grammar turns each (type, layout, descriptor) into one exported name
+and derives that member's argument list from the name alone: two sources or
+one, in place or not, a constant, a mask, a scale. Families that do not fit
+the grammar (allocators, the version query) are written out as custom entries.
+"""
+
+# Sample code -> C type of one sample. '1u' and '24u' have no C type: their
+# members pass bytes.
+CTYPE = {
+    '1u': 'Pxl8u', '8u': 'Pxl8u', '8s': 'Pxl8s', '16u': 'Pxl16u', '16s': 'Pxl16s',
+    '24u': 'Pxl8u', '32u': 'Pxl32u', '32s': 'Pxl32s', '32f': 'Pxl32f', '64s': 'Pxl64s',
+    '64f': 'Pxl64f', '16sc': 'Pxl16sc', '32sc': 'Pxl32sc', '32fc': 'Pxl32fc',
+    '64fc': 'Pxl64fc',
+}
+
+SAMPLE_CODES = sorted(CTYPE, key=len, reverse=True)
+
+LAYOUTS = ['C1', 'C2', 'C3', 'C4', 'AC1', 'AC4', 'AP4', 'P3', 'P4', 'C3C1', 'C4C1',
+           'C1C3', 'C1C4', 'C3AC4', 'AC4C3', 'C3P3', 'C4P4', 'P3C3', 'P4C4', 'P2C1']
+
+
+def split_types(code):
+    """'8u16s' -> ('8u', '16s'); '32f' -> ('32f', '32f')."""
+    for first in SAMPLE_CODES:
+        if code.startswith(first):
+            rest = code[len(first):]
+            if rest == '':
+                return first, first
+            if rest in CTYPE:
+                return first, rest
+    raise ValueError('unknown sample code ' + code)
+
+
+class Member:
+    def __init__(self, name, ret, args, call, family, file):
+        self.name = name          # exported name
+        self.ret = ret            # C return type
+        self.args = args          # [(c type, argument name)]
+        self.call = call          # C++ expression the shim returns
+        self.family = family      # heading in the public header
+        self.file = file          # family source file that holds the shim
+
+
+class Family:
+    """An image (pxli) or vector (pxls) family expanded by the naming grammar.
+
+    shape: 'binary' two sources; 'unary' one source; 'const' a constant
+    operand (stems ending in C); 'set' a value and a destination.
+    desc: descriptors after the layout, e.g. 'RSfs IRSfs' or 'R IR'; for
+    vector families the suffix after the type, '' for none ('Sfs ISfs', ' I').
+    extra: [(c type, name)] behind roi (and mask), before scale.
+    impl: C++ callee with {T} (or {S}, {D}) and {L} placeholders.
+    """
+
+    def __init__(self, prefix, stem, types, desc, impl, file, shape, layouts='',
+                 qual='', extra=(), doc=''):
+        self.prefix, self.stem, self.qual = prefix, stem, qual
+        self.types = types.split()
+        self.layouts = layouts.split()
+        self.desc = desc.split() if prefix == 'pxli' else [d.strip() for d in desc.split(',')]
+        self.impl, self.file, self.shape = impl, file, shape
+        self.extra = list(extra)
+        self.doc = doc
+
+    def heading(self):
+        q = '_' + self.qual if self.qual else ''
+        return f'{self.prefix}{self.stem}{q}'
+
+    def members(self):
+        out = []
+        for t in self.types:
+            if self.prefix == 'pxli':
+                for lay in self.layouts:
+                    for d in self.desc:
+                        out.append(self._member(t, lay, d))
+            else:
+                for d in self.desc:
+                    out.append(self._member(t, None, d))
+        return out
+
+    def _member(self, tcode, lay, desc):
+        q = '_' + self.qual if self.qual else ''
+        if self.prefix == 'pxli':
+            name = f'pxli{self.stem}{q}_{tcode}_{lay}{desc}'
+        else:
+            name = f'pxls{self.stem}{q}_{tcode}' + (f'_{desc}' if desc else '')
+        inplace = desc.startswith('I')
+        masked = 'M' in desc
+        sfs = desc.endswith('Sfs')
+        s, d = split_types(tcode)
+        S, D = CTYPE[s], CTYPE[d]
+        args = self._base_args(S, D, lay, inplace, 'CR' in desc)
+        if masked:
+            args += [('const Pxl8u*', 'mask'), ('int', 'maskStep')]
+        args += self.extra
+        if sfs:
+            args.append(('int', 'scale'))
+        impl = self.impl.format(T=D, S=S, D=D, L=lay or 'C1')
+        call = f'{impl}({", ".join(a for _, a in args)})'
+        return Member(name, 'PxlStatus', args, call, self.heading(), self.file)
+
+    def _base_args(self, S, D, lay, inplace, channel_of_interest):
+        img = self.prefix == 'pxli'
+        if img:
+            by_value = lay == 'C1' or channel_of_interest
+            V = S if by_value else f'const {S}*'
+        else:
+            V = S
+        roi = [('PxlSize', 'roi')] if img else [('int', 'length')]
+
+        def im(t, n):
+            return [(t, n), ('int', n + 'Step')] if img else [(t, n)]
+
+        sh = self.shape
+        if sh == 'binary':
+            if inplace:
+                return im(f'const {S}*', 'src') + im(f'{D}*', 'srcDst') + roi
+            return im(f'const {S}*', 'src1') + im(f'const {S}*', 'src2') + im(f'{D}*', 'dst') + roi
+        if sh == 'unary':
+            if inplace:
+                return im(f'{D}*', 'srcDst') + roi
+            return im(f'const {S}*', 'src') + im(f'{D}*', 'dst') + roi
+        if sh == 'const':
+            if inplace:
+                return [(V, 'value')] + im(f'{D}*', 'srcDst') + roi
+            return im(f'const {S}*', 'src') + [(V, 'value')] + im(f'{D}*', 'dst') + roi
+        if sh == 'set':
+            return [(V, 'value')] + im(f'{D}*', 'dst') + roi
+        raise ValueError('unknown shape ' + sh)
+
+
+class Custom:
+    """Members whose argument lists are written out: allocators, queries."""
+
+    def __init__(self, heading, file, entries, doc=''):
+        self.file = file
+        self._heading = heading
+        self.entries = entries    # [(name, ret, [(ctype, name)], call)]
+        self.doc = doc
+        self.prefix = heading[:4]
+
+    def heading(self):
+        return self._heading
+
+    def members(self):
+        return [Member(n, r, a, c, self._heading, self.file) for n, r, a, c in self.entries]
+
+
+def image(stem, **kw):
+    return Family('pxli', stem, **kw)
+
+
+def vector(stem, **kw):
+    return Family('pxls', stem, **kw)
