@@ -57,7 +57,7 @@ class Family:
     """
 
     def __init__(self, prefix, stem, types, desc, impl, file, shape, layouts='',
-                 qual='', extra=(), doc=''):
+                 qual='', extra=(), doc='', order='', folds=''):
         self.prefix, self.stem, self.qual = prefix, stem, qual
         self.types = types.split()
         self.layouts = layouts.split()
@@ -65,6 +65,11 @@ class Family:
         self.impl, self.file, self.shape = impl, file, shape
         self.extra = list(extra)
         self.doc = doc
+        # Check order of the frame ('NS', 'NST', 'NTS') and the layouts whose
+        # members look at the width only and hand over to C1: the argument
+        # sweep of the tests derives every expected status from these two.
+        self.order = order
+        self.folds = folds.split()
 
     def heading(self):
         q = '_' + self.qual if self.qual else ''
@@ -101,7 +106,11 @@ class Family:
             args.append(('int', 'scale'))
         impl = self.impl.format(T=D, S=S, D=D, L=lay or 'C1')
         call = f'{impl}({", ".join(a for _, a in args)})'
-        return Member(name, 'PxlStatus', args, call, self.heading(), self.file)
+        m = Member(name, 'PxlStatus', args, call, self.heading(), self.file)
+        m.order = self.order
+        m.folds = lay in self.folds
+        m.vector = self.prefix == 'pxls'
+        return m
 
     def _base_args(self, S, D, lay, inplace, channel_of_interest):
         img = self.prefix == 'pxli'
@@ -147,7 +156,12 @@ class Custom:
         return self._heading
 
     def members(self):
-        return [Member(n, r, a, c, self._heading, self.file) for n, r, a, c in self.entries]
+        out = []
+        for n, r, a, c in self.entries:
+            m = Member(n, r, a, c, self._heading, self.file)
+            m.order = ''
+            out.append(m)
+        return out
 
 
 def image(stem, **kw):

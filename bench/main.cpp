@@ -1,0 +1,65 @@
+// pxl_bench: the library against OpenCV and against the machine's memory
+// bandwidth. scripts/bench.sh runs it and turns its JSON into BENCHMARKS.md.
+//
+// What the table needs to describe the run (instruction level of this build,
+// OpenCV's version and code paths, the load when the run began) goes into
+// the JSON context, next to what Google Benchmark records itself.
+#include <benchmark/benchmark.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include <opencv2/core.hpp>
+
+#include "harness.h"
+
+#ifndef PXL_BENCH_ISA
+#define PXL_BENCH_ISA "unknown"
+#endif
+
+namespace {
+
+// The lines of OpenCV's build report that say which instructions it runs
+// and how it spreads work over threads; it picks its code path at run time.
+std::string cvBuildLine(const std::string& key) {
+  std::istringstream in(cv::getBuildInformation());
+  for (std::string line; std::getline(in, line);) {
+    const auto at = line.find(key);
+    if (at == std::string::npos) continue;
+    std::string v = line.substr(at + key.size());
+    const auto first = v.find_first_not_of(" :");
+    return first == std::string::npos ? std::string() : v.substr(first);
+  }
+  return "unknown";
+}
+
+std::string loadAverage() {
+  std::ifstream f("/proc/loadavg");
+  std::string one, five, fifteen;
+  f >> one >> five >> fifteen;
+  return one + " " + five + " " + fifteen;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const PxlLibVersion* v = pxliGetLibVersion();
+  benchmark::AddCustomContext("pxl_version", v != nullptr && v->versionText ? v->versionText : "unknown");
+  benchmark::AddCustomContext("pxl_isa", PXL_BENCH_ISA);
+  benchmark::AddCustomContext("pxl_threads_all", std::to_string(pxlbench::allThreads()));
+  benchmark::AddCustomContext("opencv_version", cv::getVersionString());
+  benchmark::AddCustomContext("opencv_baseline", cvBuildLine("Baseline"));
+  benchmark::AddCustomContext("opencv_dispatch", cvBuildLine("Dispatched code generation"));
+  benchmark::AddCustomContext("opencv_parallel", cvBuildLine("Parallel framework"));
+  benchmark::AddCustomContext("load_at_start", loadAverage());
+
+  pxlbench::registerBandwidth();
+  pxlbench::registerArith();
+
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  return 0;
+}

@@ -1,0 +1,23 @@
+# Install the built library into a scratch prefix, then configure, build and
+# run a small consumer project against it.
+file(REMOVE_RECURSE ${WORK})
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix RESULT_VARIABLE rc OUTPUT_QUIET)
+if(rc)
+  message(FATAL_ERROR "install failed")
+endif()
+set(ENV{PKG_CONFIG_PATH} ${WORK}/prefix/lib/pkgconfig)
+execute_process(COMMAND ${CMAKE_COMMAND} -S ${SOURCE}/tests/consumer -B ${WORK}/build
+                        -DCMAKE_PREFIX_PATH=${WORK}/prefix RESULT_VARIABLE rc)
+if(rc)
+  message(FATAL_ERROR "consumer configure failed")
+endif()
+execute_process(COMMAND ${CMAKE_COMMAND} --build ${WORK}/build RESULT_VARIABLE rc)
+if(rc)
+  message(FATAL_ERROR "consumer build failed")
+endif()
+foreach(exe with_cmake with_pkgconfig)
+  execute_process(COMMAND ${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${WORK}/prefix/lib ${WORK}/build/${exe} RESULT_VARIABLE rc)
+  if(rc)
+    message(FATAL_ERROR "${exe} failed: ${rc}")
+  endif()
+endforeach()

@@ -1,0 +1,28 @@
+// The table of every member with a known check order, generated from the
+// family registry, with a thunk that calls the member from one generic set
+// of arguments. Shared by the argument sweep and the differential tests.
+#pragma once
+
+#include "pxli.h"
+#include "pxls.h"
+
+struct SweepArgs {
+  void* img[3];
+  int step[3];
+  PxlSize roi;
+  int length;
+  int scale;
+  const void* value;
+};
+
+struct SweepEntry {
+  const char* name;
+  const char* order;  // "NS", "NST" or "NTS"
+  bool folds;         // looks at the width only, then hands over to C1
+  bool vector;        // pxls: a length instead of steps and roi
+  int images;         // image or vector pointers, in argument order
+  bool valuePtr;      // the constant is passed by pointer
+  PxlStatus (*call)(const SweepArgs&);
+};
+
+#include "sweep.inc"

@@ -1,0 +1,93 @@
+// Bad arguments for every member the registry knows the check order of:
+// each fault alone, and two faults at once where the order decides which
+// one is reported. Whatever the status, nothing may be written.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "harness/guard.h"
+#include "sweep.h"
+
+namespace {
+
+using pxltest::Place;
+using pxltest::TestImage;
+
+struct Case {
+  std::string what;
+  std::function<void(SweepArgs&)> apply;
+  PxlStatus expect;
+};
+
+std::vector<Case> casesFor(const SweepEntry& e) {
+  const std::string order = e.order;
+  const bool steps = order.find('T') != std::string::npos;
+  const bool stepsFirst = order == "NTS";
+  std::vector<Case> cs;
+  for (int i = 0; i < e.images; ++i)
+    cs.push_back({"null pointer " + std::to_string(i), [i](SweepArgs& a) { a.img[i] = nullptr; }, pxlStsNullPtr});
+  if (e.valuePtr) cs.push_back({"null value", [](SweepArgs& a) { a.value = nullptr; }, pxlStsNullPtr});
+  if (e.vector) {
+    for (int n : {0, -1}) cs.push_back({"length " + std::to_string(n), [n](SweepArgs& a) { a.length = n; }, pxlStsSize});
+    cs.push_back({"null and length 0", [](SweepArgs& a) { a.img[0] = nullptr, a.length = 0; }, pxlStsNullPtr});
+    return cs;
+  }
+  for (int n : {0, -1}) {
+    cs.push_back({"width " + std::to_string(n), [n](SweepArgs& a) { a.roi.width = n; }, pxlStsSize});
+    cs.push_back({"height " + std::to_string(n), [n](SweepArgs& a) { a.roi.height = n; }, pxlStsSize});
+  }
+  const int last = e.images - 1;
+  cs.push_back({"null and width 0", [](SweepArgs& a) { a.img[0] = nullptr, a.roi.width = 0; },
+                e.folds ? pxlStsSize : pxlStsNullPtr});
+  cs.push_back({"null and height 0", [last](SweepArgs& a) { a.img[last] = nullptr, a.roi.height = 0; },
+                pxlStsNullPtr});
+  if (steps) {
+    for (int j = 0; j < e.images; ++j)
+      for (int n : {0, -1})
+        cs.push_back({"step " + std::to_string(j) + " = " + std::to_string(n),
+                      [j, n](SweepArgs& a) { a.step[j] = n; }, pxlStsStep});
+    cs.push_back({"width 0 and step -1", [](SweepArgs& a) { a.roi.width = 0, a.step[0] = -1; },
+                  stepsFirst ? pxlStsStep : pxlStsSize});
+    cs.push_back({"height -1 and last step 0", [last](SweepArgs& a) { a.roi.height = -1, a.step[last] = 0; },
+                  stepsFirst ? pxlStsStep : pxlStsSize});
+    cs.push_back({"null and step 0", [last](SweepArgs& a) { a.img[0] = nullptr, a.step[last] = 0; },
+                  pxlStsNullPtr});
+  } else {
+    // Steps are not examined at all: the size fault is the one reported.
+    cs.push_back({"width 0 and step -1", [](SweepArgs& a) { a.roi.width = 0, a.step[0] = -1; }, pxlStsSize});
+  }
+  return cs;
+}
+
+TEST(ArgumentSweep, EveryMemberReportsInItsOrderAndWritesNothing) {
+  constexpr int kW = 16, kH = 6, kPix = 32, kPad = 32;
+  std::vector<std::unique_ptr<TestImage>> imgs;
+  for (int i = 0; i < 3; ++i)
+    imgs.push_back(std::make_unique<TestImage>(kW, kH, kPix, kPad, kPad, Place::Back, 11 + i));
+  alignas(16) unsigned char values[64];
+  for (int i = 0; i < 64; ++i) values[i] = static_cast<unsigned char>(i + 1);  // distinct constants
+
+  int checked = 0;
+  for (const SweepEntry& e : kSweepTable) {
+    for (const Case& c : casesFor(e)) {
+      SweepArgs a{};
+      for (int i = 0; i < 3; ++i) a.img[i] = imgs[i]->roi(), a.step[i] = imgs[i]->step();
+      a.roi = {8, 4};
+      a.length = 8;
+      a.scale = 0;
+      a.value = values;
+      c.apply(a);
+      std::vector<std::vector<std::uint8_t>> before;
+      for (auto& im : imgs) before.push_back(im->snapshot());
+      const PxlStatus st = e.call(a);
+      EXPECT_EQ(st, c.expect) << e.name << ": " << c.what;
+      for (int i = 0; i < 3; ++i) EXPECT_TRUE(imgs[i]->unchanged(before[i])) << e.name << " wrote on " << c.what;
+      ++checked;
+    }
+  }
+  EXPECT_GT(checked, 2000);
+}
+
+}  // namespace
