@@ -141,7 +141,9 @@ def main():
         key = (m["family"], m["member"], m["variant"], int(m["w"]), int(m["h"]), int(m["threads"]))
         p = pairs.setdefault(key, {"meta": m})
         p[m["impl"]] = r
-        families.setdefault(m["family"], []).append(key) if key not in families.get(m["family"], []) else None
+        keys = families.setdefault(m["family"], [])
+        if key not in keys:
+            keys.append(key)
 
     notes = OrderedDict()
     slower = []

@@ -1,0 +1,100 @@
+#!/usr/bin/env bash
+# Builds pxl_bench in its own build directory, runs it and regenerates
+# BENCHMARKS.md from its JSON output.
+#
+# Environment (all optional):
+#   PXL_ISA                 instruction level of the library: baseline (default) or avx2
+#   PXL_BENCH_MIN_TIME      seconds per repetition of each benchmark (default 0.2)
+#   PXL_BENCH_REPETITIONS   repetitions; the table shows their median (default 3)
+#   PXL_BENCH_QUIET_WAIT    at most this many seconds to wait for an idle machine (default 300)
+#   PXL_BENCH_FILTER        regular expression of the benchmarks to run (default all)
+set -euo pipefail
+
+root=$(cd "$(dirname "$0")/.." && pwd)
+cd "$root"
+
+isa=${PXL_ISA:-baseline}
+min_time=${PXL_BENCH_MIN_TIME:-0.2}
+reps=${PXL_BENCH_REPETITIONS:-3}
+quiet_wait=${PXL_BENCH_QUIET_WAIT:-300}
+filter=${PXL_BENCH_FILTER:-.}
+build=build-bench
+json=$build/pxl_bench.json
+stats=$build/pxl_bench.stats
+
+# ---------------------------------------------------------------- packages
+missing=()
+for pkg in libopencv-dev libbenchmark-dev; do
+  dpkg -s "$pkg" >/dev/null 2>&1 || missing+=("$pkg")
+done
+if ((${#missing[@]})); then
+  echo "bench.sh: installing ${missing[*]}" >&2
+  sudo_=()
+  [ "$(id -u)" -eq 0 ] || sudo_=(sudo)
+  "${sudo_[@]}" apt-get update
+  DEBIAN_FRONTEND=noninteractive "${sudo_[@]}" apt-get install -y "${missing[@]}"
+fi
+
+# ---------------------------------------------------------------- build
+cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=Release -DPXL_ISA="$isa" \
+  -DPXL_BUILD_BENCH=ON -DPXL_BUILD_TESTS=OFF -DPXL_BUILD_EXAMPLES=OFF >/dev/null
+cmake --build "$build" -j"$(nproc)" --target pxl_bench
+
+# ---------------------------------------------------------------- run
+# Busy and total jiffies of the whole machine, from the first line of /proc/stat.
+cpu_jiffies() { awk '/^cpu /{ print $2+$3+$4+$7+$8, $2+$3+$4+$5+$6+$7+$8 }' /proc/stat; }
+
+# Sets children_cpu to the CPU seconds used so far by the finished children
+# of this shell. 'times' must run in this shell itself, not in a command
+# substitution (a subshell has no finished children), so it goes through a
+# file.
+children_cpu_now() {
+  times >"$build/times.txt"
+  read -r children_cpu < <(awk 'NR==2 { n=0; for (i=1;i<=2;i++) { split($i, a, /[ms]/); n += a[1]*60 + a[2] } print n }' \
+    "$build/times.txt")
+}
+
+# Share of the machine that is busy over one second, in percent.
+busy_percent() {
+  local b0 t0 b1 t1
+  read -r b0 t0 < <(cpu_jiffies)
+  sleep 1
+  read -r b1 t1 < <(cpu_jiffies)
+  echo $(((b1 - b0) * 100 / (t1 - t0 > 0 ? t1 - t0 : 1)))
+}
+
+# Another build on a two-core machine halves what a parallel region gets, so
+# wait a while for it to finish; run anyway after that, and say so.
+waited=0
+while (($(busy_percent) > 10 && waited < quiet_wait)); do
+  ((waited == 0)) && echo "bench.sh: machine busy, waiting up to ${quiet_wait} s for it to be idle" >&2
+  sleep 4
+  waited=$((waited + 5))
+done
+
+hz=$(getconf CLK_TCK)
+children_cpu_now
+own0=$children_cpu
+read -r busy0 _ < <(cpu_jiffies)
+start=$(date +%s.%N)
+"$build/bench/pxl_bench" \
+  --benchmark_filter="$filter" \
+  --benchmark_min_time="$min_time" \
+  --benchmark_repetitions="$reps" \
+  --benchmark_report_aggregates_only=true \
+  --benchmark_out="$json" --benchmark_out_format=json
+end=$(date +%s.%N)
+read -r busy1 _ < <(cpu_jiffies)
+children_cpu_now
+own=$(awk -v a="$own0" -v b="$children_cpu" 'BEGIN { print b - a }')
+
+awk -v b0="$busy0" -v b1="$busy1" -v hz="$hz" -v own="$own" -v s="$start" -v e="$end" \
+  -v w="$waited" -v mt="$min_time" 'BEGIN {
+    other = (b1 - b0) / hz - own; if (other < 0) other = 0
+    printf "wall_seconds=%.1f\nother_cpu_seconds=%.1f\nquiet_wait_seconds=%d\nmin_time=%s\n", e - s, other, w, mt
+  }' >"$stats"
+
+# ---------------------------------------------------------------- table
+command="scripts/bench.sh"
+[ "$isa" = baseline ] || command="PXL_ISA=$isa $command"
+python3 scripts/bench_table.py "$json" --out BENCHMARKS.md --command "$command" --run-stats "$stats"
