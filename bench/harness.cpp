@@ -82,10 +82,10 @@ CvIo cvIo(const Case& c, Shape s) {
   CvIo m;
   for (int i = 0; i < c.sources; ++i) {
     Image& im = imageFor(c.sample, s, i == 0 ? Role::Src0 : Role::Src1);
-    m.src[i] = cv::Mat(s.height, s.width, type, im.data, std::size_t(im.step));
+    (i == 0 ? m.a : m.b) = cv::Mat(s.height, s.width, type, im.data, std::size_t(im.step));
   }
   Image& d = imageFor(c.sample, s, Role::DstCv);
-  m.dst = cv::Mat(s.height, s.width, type, d.data, std::size_t(d.step));
+  m.d = cv::Mat(s.height, s.width, type, d.data, std::size_t(d.step));
   return m;
 }
 
@@ -101,16 +101,16 @@ const char* sameOutput(const Case& c, Shape s) {
   if (c.cv != nullptr) {
     Io io = libIo(c, s);
     CvIo m = cvIo(c, s);
-    const uchar* cvData = m.dst.data;
+    const uchar* cvData = m.d.data;
     c.lib(io);
     c.cv(m);
     verdict = "yes";
-    if (m.dst.data != cvData) {
+    if (m.d.data != cvData) {
       verdict = "realloc";
     } else {
       const std::size_t rowBytes = std::size_t(s.width) * c.sample.bytes;
       for (int y = 0; y < s.height && verdict[0] == 'y'; ++y)
-        if (std::memcmp(static_cast<const Pxl8u*>(io.dst) + std::ptrdiff_t(io.dstStep) * y, m.dst.ptr(y), rowBytes))
+        if (std::memcmp(static_cast<const Pxl8u*>(io.dst) + std::ptrdiff_t(io.dstStep) * y, m.d.ptr(y), rowBytes))
           verdict = "no";
     }
   }
@@ -131,7 +131,8 @@ std::string nameOf(const Case& c, Shape s, int threads, const char* impl) {
   std::string variant = c.variant;
   for (char& ch : variant)
     if (ch == ' ') ch = '_';
-  return std::string(c.family) + "/" + c.member + "[" + variant + "]/" + std::to_string(s.width) + "x" +
+  if (!variant.empty()) variant = "[" + variant + "]";
+  return std::string(c.family) + "/" + c.member + variant + "/" + std::to_string(s.width) + "x" +
          std::to_string(s.height) + "/t" + std::to_string(threads) + "/" + impl;
 }
 
@@ -159,12 +160,12 @@ void runLib(benchmark::State& state, const Case& c, Shape s, int threads, std::i
 
 void runCv(benchmark::State& state, const Case& c, Shape s, int threads, std::int64_t bytes) {
   CvIo m = cvIo(c, s);
-  const uchar* dstData = m.dst.data;
+  const uchar* dstData = m.d.data;
   useThreads(threads);
   c.cv(m);
   // A destination that OpenCV reallocated would be fresh memory, not the
   // caller's image: that would not be the same measurement.
-  if (m.dst.data != dstData) {
+  if (m.d.data != dstData) {
     state.SkipWithError("OpenCV reallocated the destination");
     return;
   }

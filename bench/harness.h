@@ -48,10 +48,9 @@ struct Io {
 };
 
 // The same memory as OpenCV headers (no copy: both sides read the same
-// bytes, with the same alignment).
+// bytes, with the same alignment): sources a and b, destination d.
 struct CvIo {
-  cv::Mat src[2];
-  cv::Mat dst;
+  cv::Mat a, b, d;
 };
 
 using LibFn = PxlStatus (*)(const Io&);
@@ -71,11 +70,19 @@ struct Case {
   const char* cvDoes;  // what the OpenCV column computes, for the table's notes
 };
 
-// Shorthands for table rows, so a row stays on one line.
+// Shorthands that keep a table row on one line. PXL_LIB and PXL_CV take any
+// call (the library's on io, OpenCV's on m.a, m.b, m.d); the others spell
+// the usual argument lists of the library.
 #define PXL_SRC(T, i) io.s<T>(i), io.srcStep[i]
 #define PXL_DST(T) io.d<T>(), io.dstStep, io.roi
 #define PXL_LIB(...) [](const Io& io) -> PxlStatus { return __VA_ARGS__; }
 #define PXL_CV(...) [](CvIo& m) { __VA_ARGS__; }
+// Two sources and a scale factor: src1, src1Step, src2, src2Step, dst, dstStep, roi, scale.
+#define PXL_LIB2S(fn, T, scale) PXL_LIB(fn(PXL_SRC(T, 0), PXL_SRC(T, 1), PXL_DST(T), scale))
+// Two float sources, no scale factor.
+#define PXL_LIB2(fn, T) PXL_LIB(fn(PXL_SRC(T, 0), PXL_SRC(T, 1), PXL_DST(T)))
+// One source, a constant and a scale factor: src, srcStep, value, dst, dstStep, roi, scale.
+#define PXL_LIB1CS(fn, T, value, scale) PXL_LIB(fn(PXL_SRC(T, 0), value, PXL_DST(T), scale))
 
 // Image sizes and thread counts every case is measured at.
 struct Shape {

@@ -16,16 +16,29 @@ inline constexpr int kX87RoundNear = 0;
 inline constexpr int kX87RoundZero = 3072;
 inline constexpr int kX87RoundField = 3072;
 
-class SseRoundingScope {
+// The two control registers differ only in how they are set and restored.
+struct SseControl {
+  static constexpr int kField = kSseRoundField;
+  static int set(int rc) { return pxl_set_rc_ssx(rc); }
+  static void restore(int word) { pxl_set_cw_ssx(word); }
+};
+struct X87Control {
+  static constexpr int kField = kX87RoundField;
+  static int set(int rc) { return pxl_set_rcpc_fpu(rc, kX87RoundField); }
+  static void restore(int word) { pxl_set_cw_fpu(word); }
+};
+
+template <class Control>
+class RoundingScope {
  public:
-  explicit SseRoundingScope(int rc) : wanted_(rc), previous_(pxl_set_rc_ssx(rc)) {}
-  ~SseRoundingScope() {
-    if (restore_ && (previous_ & kSseRoundField) != wanted_) pxl_set_cw_ssx(previous_);
+  explicit RoundingScope(int rc) : wanted_(rc), previous_(Control::set(rc)) {}
+  ~RoundingScope() {
+    if (restore_ && (previous_ & Control::kField) != wanted_) Control::restore(previous_);
   }
   // For the members that leave the caller at nearest on an early error.
   void keepCurrent() { restore_ = false; }
-  SseRoundingScope(const SseRoundingScope&) = delete;
-  SseRoundingScope& operator=(const SseRoundingScope&) = delete;
+  RoundingScope(const RoundingScope&) = delete;
+  RoundingScope& operator=(const RoundingScope&) = delete;
 
  private:
   int wanted_;
@@ -33,20 +46,7 @@ class SseRoundingScope {
   bool restore_ = true;
 };
 
-class X87RoundingScope {
- public:
-  explicit X87RoundingScope(int rc) : wanted_(rc), previous_(pxl_set_rcpc_fpu(rc, kX87RoundField)) {}
-  ~X87RoundingScope() {
-    if (restore_ && (previous_ & kX87RoundField) != wanted_) pxl_set_cw_fpu(previous_);
-  }
-  void keepCurrent() { restore_ = false; }
-  X87RoundingScope(const X87RoundingScope&) = delete;
-  X87RoundingScope& operator=(const X87RoundingScope&) = delete;
-
- private:
-  int wanted_;
-  int previous_;
-  bool restore_ = true;
-};
+using SseRoundingScope = RoundingScope<SseControl>;
+using X87RoundingScope = RoundingScope<X87Control>;
 
 }  // namespace pxl
