@@ -18,7 +18,7 @@ constexpr const char* kHalfSum =
     "cv::addWeighted(a, 0.5, b, 0.5, 0): the halved sum in float, rounded to nearest even";
 
 // clang-format off
-// family  member                  arguments            sample srcs  library call                                   OpenCV call on the same images                   what the OpenCV column computes
+// family, member, arguments, sample, sources, library call, OpenCV call on the same images, what OpenCV computes
 const Case kArith[] = {
   {"Add",  "pxliAdd_8u_C1RSfs",   "scale 0",           k8u,  2, PXL_LIB2S(pxliAdd_8u_C1RSfs, Pxl8u, 0),       PXL_CV(cv::add(m.a, m.b, m.d)),                  "cv::add (saturating)"},
   {"Add",  "pxliAdd_8u_C1RSfs",   "scale 1",           k8u,  2, PXL_LIB2S(pxliAdd_8u_C1RSfs, Pxl8u, 1),       PXL_CV(cv::addWeighted(m.a, 0.5, m.b, 0.5, 0, m.d)), kHalfSum},

@@ -20,6 +20,10 @@ struct OpAdd {
   static W exact(W a, W b) {
     return a + b;
   }
+  template <class V>
+  static V saturating(V a, V b) {
+    return simd::addSaturate<Elem<V>>(a, b);
+  }
 };
 
 // b - a: Sub takes src2 - src1 (in place srcDst - src) and SubC src - value.
@@ -35,6 +39,10 @@ struct OpSub {
     } else {
       return b - a;
     }
+  }
+  template <class V>
+  static V saturating(V a, V b) {
+    return simd::subSaturate<Elem<V>>(b, a);
   }
 };
 
