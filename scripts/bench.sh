@@ -4,8 +4,8 @@
 #
 # Environment (all optional):
 #   PXL_ISA                 instruction level of the library: baseline (default) or avx2
-#   PXL_BENCH_MIN_TIME      seconds per repetition of each benchmark (default 0.2)
-#   PXL_BENCH_REPETITIONS   repetitions; the table shows their median (default 3)
+#   PXL_BENCH_MIN_TIME      seconds per repetition of each benchmark (default 0.1)
+#   PXL_BENCH_REPETITIONS   repetitions; the table shows their median (default 5)
 #   PXL_BENCH_QUIET_WAIT    at most this many seconds to wait for an idle machine (default 300)
 #   PXL_BENCH_FILTER        regular expression of the benchmarks to run (default all)
 set -euo pipefail
@@ -14,8 +14,8 @@ root=$(cd "$(dirname "$0")/.." && pwd)
 cd "$root"
 
 isa=${PXL_ISA:-baseline}
-min_time=${PXL_BENCH_MIN_TIME:-0.2}
-reps=${PXL_BENCH_REPETITIONS:-3}
+min_time=${PXL_BENCH_MIN_TIME:-0.1}
+reps=${PXL_BENCH_REPETITIONS:-5}
 quiet_wait=${PXL_BENCH_QUIET_WAIT:-300}
 filter=${PXL_BENCH_FILTER:-.}
 build=build-bench
@@ -65,6 +65,11 @@ busy_percent() {
 
 # Another build on a two-core machine halves what a parallel region gets, so
 # wait a while for it to finish; run anyway after that, and say so.
+#
+# Repetitions are not interleaved with other benchmarks: the library and
+# OpenCV on the same case run back to back, so that their ratio compares them
+# under the same conditions. The memory bandwidth of this virtual machine
+# drifts between runs far more than it does within a minute.
 waited=0
 while (($(busy_percent) > 10 && waited < quiet_wait)); do
   ((waited == 0)) && echo "bench.sh: machine busy, waiting up to ${quiet_wait} s for it to be idle" >&2

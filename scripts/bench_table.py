@@ -45,6 +45,7 @@ def load_runs(path):
         name = b.get("run_name", b["name"])
         if kind in ("median", "single"):
             runs[name] = {
+                "order": b.get("family_index", len(runs)),
                 "meta": parse_label(b.get("label")),
                 "items": b.get("items_per_second"),
                 "bytes": b.get("bytes_per_second"),
@@ -55,6 +56,8 @@ def load_runs(path):
     for name, cv in spread.items():
         if name in runs:
             runs[name]["cv"] = cv
+    # Registration order, whatever order the runs took.
+    runs = OrderedDict(sorted(runs.items(), key=lambda kv: kv[1].get("order", 0)))
     return doc["context"], runs
 
 
@@ -199,8 +202,8 @@ def main():
                f"{context.get('opencv_parallel', '?')}")
     reps = next((r.get("reps", 1) for r in runs.values() if "reps" in r), 1)
     min_time = stats.get("min_time", "?")
-    out.append(f"- Each figure is the median of {reps} repetitions of at least {min_time} s each; time is "
-               "wall-clock time")
+    out.append(f"- Each figure is the median of {reps} repetitions of at least {min_time} s each; the library "
+               "and OpenCV on the same case run back to back; time is wall-clock time")
     out.append("")
 
     out.append("## How to read the tables\n")
@@ -263,12 +266,35 @@ def main():
         out.append(f"- `{member}`{' (' + variant + ')' if variant else ''}: {what}")
     out.append("")
 
+    # How much each side gains from more threads, per case and size.
+    gains = {"lib": [], "cv": []}
+    for key, p in pairs.items():
+        fam, member, variant, w, h, t = key
+        if t == 1:
+            continue
+        one = pairs.get((fam, member, variant, w, h, 1))
+        if not one:
+            continue
+        for impl in gains:
+            if p.get(impl) and one.get(impl) and one[impl]["items"]:
+                gains[impl].append(p[impl]["items"] / one[impl]["items"])
+    if gains["lib"] or gains["cv"]:
+        out.append("## From one thread to all\n")
+        nthreads = context.get("pxl_threads_all", "all")
+        for impl, who in (("lib", "The library's"), ("cv", "OpenCV's")):
+            g = gains[impl]
+            if g:
+                out.append(f"- {who} rate with {nthreads} threads divided by its rate with one: "
+                           f"{min(g):.2f} to {max(g):.2f} over the rows above.")
+        out.append("")
+
     out.append("## Slower than OpenCV\n")
     if slower:
-        out.append("| Member | Arguments | Size | Threads | Library / OpenCV |")
-        out.append("|---|---|---|---|---:|")
+        out.append("| Member | Arguments | Size | Threads | Library / OpenCV | Note |")
+        out.append("|---|---|---|---|---:|---|")
         for member, variant, w, h, t, ratio in slower:
-            out.append(f"| `{member}` | {variant or '-'} | {w}x{h} | {t} | {ratio:.2f} |")
+            note = "within 5%, about the run-to-run noise" if ratio >= 0.95 else ""
+            out.append(f"| `{member}` | {variant or '-'} | {w}x{h} | {t} | {ratio:.2f} | {note} |")
     else:
         out.append("No member measured here is slower than OpenCV.")
     out.append("")
