@@ -93,8 +93,8 @@ CvIo cvIo(const Case& c, Shape s) {
 // once per case and shape, outside any timing, and only reported: it tells
 // the reader whether the two columns compute the same thing.
 const char* sameOutput(const Case& c, Shape s) {
-  static std::map<std::pair<const Case*, int>, const char*> verdicts;
-  auto key = std::make_pair(&c, s.width);
+  static std::map<std::tuple<const Case*, int, int>, const char*> verdicts;
+  auto key = std::make_tuple(&c, s.width, s.height);
   auto it = verdicts.find(key);
   if (it != verdicts.end()) return it->second;
   const char* verdict = "n/a";
@@ -102,11 +102,13 @@ const char* sameOutput(const Case& c, Shape s) {
     Io io = libIo(c, s);
     CvIo m = cvIo(c, s);
     const uchar* cvData = m.d.data;
-    c.lib(io);
+    const PxlStatus st = c.lib(io);
     c.cv(m);
     verdict = "yes";
-    if (m.d.data != cvData) {
-      verdict = "realloc";
+    if (st != pxlStsOk) {
+      verdict = "library error";
+    } else if (m.d.data != cvData) {
+      verdict = "OpenCV reallocated";
     } else {
       const std::size_t rowBytes = std::size_t(s.width) * c.sample.bytes;
       for (int y = 0; y < s.height && verdict[0] == 'y'; ++y)

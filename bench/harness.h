@@ -20,13 +20,12 @@ namespace pxlbench {
 
 // One sample type: its size and the matching OpenCV depth.
 struct SampleKind {
-  const char* name;
   int bytes;
   int cvDepth;
 };
-inline constexpr SampleKind k8u{"8u", 1, CV_8U};
-inline constexpr SampleKind k16s{"16s", 2, CV_16S};
-inline constexpr SampleKind k32f{"32f", 4, CV_32F};
+inline constexpr SampleKind k8u{1, CV_8U};
+inline constexpr SampleKind k16s{2, CV_16S};
+inline constexpr SampleKind k32f{4, CV_32F};
 
 // Raw views for the library side: up to two sources and one destination,
 // single channel, steps in bytes.

@@ -5,7 +5,8 @@
 # Environment (all optional):
 #   PXL_ISA                 instruction level of the library: baseline (default) or avx2
 #   PXL_BENCH_MIN_TIME      seconds per repetition of each benchmark (default 0.1)
-#   PXL_BENCH_REPETITIONS   repetitions; the table shows their median (default 5)
+#   PXL_BENCH_REPETITIONS   repetitions within one run of the suite (default 3)
+#   PXL_BENCH_RUNS          runs of the whole suite; the table shows the median (default 5)
 #   PXL_BENCH_QUIET_WAIT    at most this many seconds to wait for an idle machine (default 300)
 #   PXL_BENCH_FILTER        regular expression of the benchmarks to run (default all)
 set -euo pipefail
@@ -15,11 +16,11 @@ cd "$root"
 
 isa=${PXL_ISA:-baseline}
 min_time=${PXL_BENCH_MIN_TIME:-0.1}
-reps=${PXL_BENCH_REPETITIONS:-5}
+reps=${PXL_BENCH_REPETITIONS:-3}
+runs=${PXL_BENCH_RUNS:-5}
 quiet_wait=${PXL_BENCH_QUIET_WAIT:-300}
 filter=${PXL_BENCH_FILTER:-.}
 build=build-bench
-json=$build/pxl_bench.json
 stats=$build/pxl_bench.stats
 
 # ---------------------------------------------------------------- packages
@@ -41,8 +42,10 @@ cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=Release -DPXL_ISA="$isa" \
 cmake --build "$build" -j"$(nproc)" --target pxl_bench
 
 # ---------------------------------------------------------------- run
-# Busy and total jiffies of the whole machine, from the first line of /proc/stat.
-cpu_jiffies() { awk '/^cpu /{ print $2+$3+$4+$7+$8, $2+$3+$4+$5+$6+$7+$8 }' /proc/stat; }
+# Busy, total and stolen jiffies of the whole machine, from the first line of
+# /proc/stat. Stolen time is what the hypervisor gave to other machines while
+# this one wanted to run.
+cpu_jiffies() { awk '/^cpu /{ print $2+$3+$4+$7+$8, $2+$3+$4+$5+$6+$7+$8, $9 }' /proc/stat; }
 
 # Sets children_cpu to the CPU seconds used so far by the finished children
 # of this shell. 'times' must run in this shell itself, not in a command
@@ -57,19 +60,20 @@ children_cpu_now() {
 # Share of the machine that is busy over one second, in percent.
 busy_percent() {
   local b0 t0 b1 t1
-  read -r b0 t0 < <(cpu_jiffies)
+  read -r b0 t0 _ < <(cpu_jiffies)
   sleep 1
-  read -r b1 t1 < <(cpu_jiffies)
+  read -r b1 t1 _ < <(cpu_jiffies)
   echo $(((b1 - b0) * 100 / (t1 - t0 > 0 ? t1 - t0 : 1)))
 }
 
 # Another build on a two-core machine halves what a parallel region gets, so
 # wait a while for it to finish; run anyway after that, and say so.
 #
-# Repetitions are not interleaved with other benchmarks: the library and
-# OpenCV on the same case run back to back, so that their ratio compares them
-# under the same conditions. The memory bandwidth of this virtual machine
-# drifts between runs far more than it does within a minute.
+# The library and OpenCV on the same case run back to back, so that their
+# ratio compares them under the same conditions. The machine's speed (memory
+# bandwidth, and at times the second processor) drifts over tens of seconds,
+# which repetitions seconds apart do not see; so the whole suite runs several
+# times and the table takes the median over the runs.
 waited=0
 while (($(busy_percent) > 10 && waited < quiet_wait)); do
   ((waited == 0)) && echo "bench.sh: machine busy, waiting up to ${quiet_wait} s for it to be idle" >&2
@@ -80,26 +84,32 @@ done
 hz=$(getconf CLK_TCK)
 children_cpu_now
 own0=$children_cpu
-read -r busy0 _ < <(cpu_jiffies)
+read -r busy0 _ steal0 < <(cpu_jiffies)
 start=$(date +%s.%N)
-"$build/bench/pxl_bench" \
-  --benchmark_filter="$filter" \
-  --benchmark_min_time="$min_time" \
-  --benchmark_repetitions="$reps" \
-  --benchmark_report_aggregates_only=true \
-  --benchmark_out="$json" --benchmark_out_format=json
+jsons=()
+for ((r = 1; r <= runs; r++)); do
+  jsons+=("$build/pxl_bench.$r.json")
+  echo "bench.sh: run $r of $runs" >&2
+  "$build/bench/pxl_bench" \
+    --benchmark_filter="$filter" \
+    --benchmark_min_time="$min_time" \
+    --benchmark_repetitions="$reps" \
+    --benchmark_report_aggregates_only=true \
+    --benchmark_out="${jsons[-1]}" --benchmark_out_format=json
+done
 end=$(date +%s.%N)
-read -r busy1 _ < <(cpu_jiffies)
+read -r busy1 _ steal1 < <(cpu_jiffies)
 children_cpu_now
 own=$(awk -v a="$own0" -v b="$children_cpu" 'BEGIN { print b - a }')
 
-awk -v b0="$busy0" -v b1="$busy1" -v hz="$hz" -v own="$own" -v s="$start" -v e="$end" \
-  -v w="$waited" -v mt="$min_time" 'BEGIN {
+awk -v b0="$busy0" -v b1="$busy1" -v st0="$steal0" -v st1="$steal1" -v hz="$hz" -v own="$own" \
+  -v s="$start" -v e="$end" -v w="$waited" -v mt="$min_time" 'BEGIN {
     other = (b1 - b0) / hz - own; if (other < 0) other = 0
-    printf "wall_seconds=%.1f\nother_cpu_seconds=%.1f\nquiet_wait_seconds=%d\nmin_time=%s\n", e - s, other, w, mt
+    printf "wall_seconds=%.1f\nother_cpu_seconds=%.1f\nstolen_cpu_seconds=%.1f\n", e - s, other, (st1 - st0) / hz
+    printf "quiet_wait_seconds=%d\nmin_time=%s\n", w, mt
   }' >"$stats"
 
 # ---------------------------------------------------------------- table
 command="scripts/bench.sh"
 [ "$isa" = baseline ] || command="PXL_ISA=$isa $command"
-python3 scripts/bench_table.py "$json" --out BENCHMARKS.md --command "$command" --run-stats "$stats"
+python3 scripts/bench_table.py "${jsons[@]}" --out BENCHMARKS.md --command "$command" --run-stats "$stats"

@@ -1,12 +1,20 @@
 #!/usr/bin/env python3
 """Turn pxl_bench's JSON output into BENCHMARKS.md.
 
-Every number in the document comes from the JSON of one run (and from lscpu
-for the machine's name); nothing is typed in by hand. The benchmark labels
-carry the metadata as key=value pairs separated by ';' (see bench/harness.h).
+Every number in the document comes from the JSON of the runs given (and from
+lscpu for the machine's name); nothing is typed in by hand. The benchmark
+labels carry the metadata as key=value pairs separated by ';' (see
+bench/harness.h).
 
-Usage: bench_table.py RESULT.json [--out BENCHMARKS.md] [--command CMD]
-                      [--run-stats FILE]
+Several runs of the whole suite may be given. This virtual machine's speed
+drifts over tens of seconds, which repetitions inside one run, seconds apart,
+do not see; but the library and OpenCV on the same case run back to back and
+drift together. So a rate is the median over the runs, while a ratio (to
+OpenCV, or to memcpy) is taken within each run first and then the median of
+those is shown.
+
+Usage: bench_table.py RESULT.json [RESULT.json ...] [--out BENCHMARKS.md]
+                      [--command CMD] [--run-stats FILE]
 """
 
 import argparse
@@ -17,8 +25,11 @@ import subprocess
 import sys
 from collections import OrderedDict
 
-# A row whose repetitions spread more than this (coefficient of variation of
-# the time, on either side) is marked as noisy.
+# Marks a row as noisy: with several runs, when its ratio to OpenCV ranges
+# over the runs by more than NOISY_RATIO_RANGE of its median; with one run,
+# when the repetitions of either side have a coefficient of variation above
+# NOISY_CV.
+NOISY_RATIO_RANGE = 0.15
 NOISY_CV = 0.05
 
 
@@ -31,18 +42,32 @@ def parse_label(label):
     return out
 
 
-def load_runs(path):
-    """Median rate of every benchmark, with its spread and label fields."""
+def median(xs):
+    xs = sorted(xs)
+    n = len(xs)
+    if n == 0:
+        return None
+    return xs[n // 2] if n % 2 else (xs[n // 2 - 1] + xs[n // 2]) / 2
+
+
+def rel_range(xs):
+    xs = [x for x in xs if x]
+    return (max(xs) - min(xs)) / median(xs) if len(xs) > 1 else 0.0
+
+
+def load_run(path):
+    """One run: the median rate of every benchmark, its spread and its label fields."""
     with open(path) as f:
         doc = json.load(f)
     runs = OrderedDict()
     spread = {}
     for b in doc["benchmarks"]:
+        name = b.get("run_name", b["name"])
         if b.get("error_occurred"):
-            runs[b["run_name"]] = {"error": b.get("error_message", "error"), "meta": parse_label(b.get("label"))}
+            runs[name] = {"order": b.get("family_index", len(runs)), "meta": parse_label(b.get("label")),
+                          "error": b.get("error_message", "error")}
             continue
         kind = b.get("aggregate_name") if b.get("run_type") == "aggregate" else "single"
-        name = b.get("run_name", b["name"])
         if kind in ("median", "single"):
             runs[name] = {
                 "order": b.get("family_index", len(runs)),
@@ -56,9 +81,42 @@ def load_runs(path):
     for name, cv in spread.items():
         if name in runs:
             runs[name]["cv"] = cv
-    # Registration order, whatever order the runs took.
-    runs = OrderedDict(sorted(runs.items(), key=lambda kv: kv[1].get("order", 0)))
     return doc["context"], runs
+
+
+class Results:
+    """All runs of the suite, benchmark by benchmark, in registration order."""
+
+    def __init__(self, paths):
+        loaded = [load_run(p) for p in paths]
+        levels = {c.get("pxl_isa") for c, _ in loaded}
+        if len(levels) > 1:
+            sys.exit(f"bench_table.py: runs of different instruction levels {sorted(levels)} cannot be merged")
+        self.context = loaded[0][0]
+        self.nruns = len(loaded)
+        self.per_run = [runs for _, runs in loaded]
+        names = OrderedDict()
+        for runs in self.per_run:
+            for name, r in runs.items():
+                names.setdefault(name, r["order"])
+        self.names = [n for n, _ in sorted(names.items(), key=lambda kv: kv[1])]
+
+    def entries(self, name):
+        """The benchmark's result in each run (None where it is missing or failed)."""
+        out = []
+        for runs in self.per_run:
+            r = runs.get(name)
+            out.append(r if r is not None and "error" not in r else None)
+        return out
+
+    def any_entry(self, name):
+        for runs in self.per_run:
+            if name in runs:
+                return runs[name]
+        return None
+
+    def rate(self, name, field):
+        return median([e[field] for e in self.entries(name) if e and e.get(field)])
 
 
 def lscpu():
@@ -100,13 +158,14 @@ def last_level_cache(context):
 
 def main():
     ap = argparse.ArgumentParser()
-    ap.add_argument("json")
+    ap.add_argument("json", nargs="+")
     ap.add_argument("--out", default="BENCHMARKS.md")
     ap.add_argument("--command", default="scripts/bench.sh")
     ap.add_argument("--run-stats", help="key=value lines written by scripts/bench.sh")
     args = ap.parse_args()
 
-    context, runs = load_runs(args.json)
+    res = Results(args.json)
+    context = res.context
     stats = {}
     if args.run_stats and os.path.exists(args.run_stats):
         with open(args.run_stats) as f:
@@ -114,44 +173,46 @@ def main():
                 if "=" in line:
                     k, v = line.strip().split("=", 1)
                     stats[k] = v
-
     cpu = lscpu()
     llc = last_level_cache(context)
 
-    # Reference bandwidth per thread count.
-    copy_bw = {}
+    # Reference bandwidth: memcpy's per run and thread count, for the fractions.
+    copy_name = {}
     ref_rows = []
-    for name, r in runs.items():
-        m = r["meta"]
-        if m.get("impl") != "ref" or "error" in r:
+    rate_ranges = []
+    for name in res.names:
+        e = res.any_entry(name)
+        m = e["meta"]
+        if m.get("impl") != "ref":
             continue
         t = int(m["threads"])
         if m["kind"] == "memcpy":
-            copy_bw[t] = r["bytes"]
-        ref_rows.append((m["kind"], t, r["bytes"], r.get("cv")))
+            copy_name[t] = name
+        ref_rows.append((m["kind"], t, res.rate(name, "bytes")))
+        rate_ranges.append(rel_range([x["bytes"] for x in res.entries(name) if x]))
 
     # Library and OpenCV rows, paired by (family, member, variant, size, threads).
     families = OrderedDict()
     pairs = OrderedDict()
     errors = []
-    for name, r in runs.items():
-        m = r["meta"]
+    for name in res.names:
+        e = res.any_entry(name)
+        m = e["meta"]
         if m.get("impl") not in ("lib", "cv"):
             continue
-        if "error" in r:
-            errors.append((name, r["error"]))
-            continue
+        if "error" in e:
+            errors.append((name, e["error"]))
         key = (m["family"], m["member"], m["variant"], int(m["w"]), int(m["h"]), int(m["threads"]))
-        p = pairs.setdefault(key, {"meta": m})
-        p[m["impl"]] = r
+        pairs.setdefault(key, {"meta": m})[m["impl"]] = name
         keys = families.setdefault(m["family"], [])
         if key not in keys:
             keys.append(key)
 
     notes = OrderedDict()
-    above_copy = 0
     slower = []
     noisy_rows = 0
+    above_copy = 0
+    ratio_ranges = []
     lines = []
     for fam, keys in families.items():
         lines.append(f"### {fam}\n")
@@ -162,21 +223,40 @@ def main():
             _, member, variant, w, h, t = key
             p = pairs[key]
             lib, cv = p.get("lib"), p.get("cv")
-            lib_rate = lib["items"] if lib else None
-            cv_rate = cv["items"] if cv else None
-            ratio = lib_rate / cv_rate if lib_rate and cv_rate else None
-            bytes_per_call = int(p["meta"]["bytes"])
-            frac = "-"
-            if lib and llc and bytes_per_call >= llc and copy_bw.get(t):
-                frac = f"{lib['bytes'] / copy_bw[t]:.2f}"
-                above_copy += lib["bytes"] > copy_bw[t]
-            noisy = any(x is not None and x.get("cv", 0) > NOISY_CV for x in (lib, cv))
+            lib_rate = res.rate(lib, "items") if lib else None
+            cv_rate = res.rate(cv, "items") if cv else None
+            for n in (lib, cv):
+                if n:
+                    rate_ranges.append(rel_range([x["items"] for x in res.entries(n) if x]))
+
+            # Ratios within each run, then their median.
+            lib_runs = res.entries(lib) if lib else [None] * res.nruns
+            cv_runs = res.entries(cv) if cv else [None] * res.nruns
+            ratios = [a["items"] / b["items"] for a, b in zip(lib_runs, cv_runs)
+                      if a and b and a.get("items") and b.get("items")]
+            ratio = median(ratios)
+            if len(ratios) > 1:
+                ratio_ranges.append(rel_range(ratios))
+                noisy = rel_range(ratios) > NOISY_RATIO_RANGE
+            else:
+                noisy = any(x is not None and x.get("cv", 0) > NOISY_CV for x in lib_runs + cv_runs)
             noisy_rows += noisy
+
+            frac = "-"
+            bytes_per_call = int(p["meta"]["bytes"])
+            if lib and llc and bytes_per_call >= llc and t in copy_name:
+                fr = [a["bytes"] / c["bytes"] for a, c in zip(lib_runs, res.entries(copy_name[t]))
+                      if a and c and a.get("bytes") and c.get("bytes")]
+                if fr:
+                    frac = f"{median(fr):.2f}"
+                    above_copy += median(fr) > 1
+
             mark = " *" if noisy else ""
-            lines.append(f"| `{member}` | {variant or '-'} | {w}x{h} | {t} | {fmt_rate(lib_rate)}{mark} "
-                         f"| {fmt_rate(cv_rate)} | {fmt_ratio(ratio)} | {frac} | {p['meta'].get('same', 'n/a')} |")
+            same = res.any_entry(lib or cv)["meta"].get("same", "n/a")
+            lines.append(f"| `{member}` | {variant or '-'} | {w}x{h} | {t} | {fmt_rate(lib_rate)} "
+                         f"| {fmt_rate(cv_rate)} | {fmt_ratio(ratio)}{mark} | {frac} | {same} |")
             if ratio is not None and ratio < 1:
-                slower.append((member, variant, w, h, t, ratio))
+                slower.append((member, variant, w, h, t, ratio, sum(r < 1 for r in ratios), len(ratios)))
             if p["meta"].get("cv"):
                 notes[(member, variant)] = p["meta"]["cv"]
         lines.append("")
@@ -194,35 +274,45 @@ def main():
     sockets = cpu.get("Socket(s)", "1")
     cpus = cpu.get("CPU(s)", str(context.get("num_cpus", "?")))
     out.append(f"- Machine: {model}, {cpus} logical CPUs ({cores} cores per socket, {sockets} socket(s)), "
-               f"{context.get('mhz_per_cpu', '?')} MHz; last-level cache {llc // (1 << 20)} MiB")
+               f"{context.get('mhz_per_cpu', '?')} MHz; last-level cache {llc // (1 << 20)} MiB; a virtual "
+               "machine")
     out.append(f"- Library: {context.get('pxl_version', '?')}, revision {git_revision()}, built for the "
                f"instruction level `{context.get('pxl_isa', '?')}` (set with `PXL_ISA`)")
     out.append(f"- OpenCV: {context.get('opencv_version', '?')}, baseline {context.get('opencv_baseline', '?')}, "
                f"code paths picked at run time among {context.get('opencv_dispatch', '?')}; threads: "
                f"{context.get('opencv_parallel', '?')}")
-    reps = next((r.get("reps", 1) for r in runs.values() if "reps" in r), 1)
+    reps = next((e.get("reps", 1) for n in res.names for e in res.entries(n) if e), 1)
     min_time = stats.get("min_time", "?")
-    out.append(f"- Each figure is the median of {reps} repetitions of at least {min_time} s each; the library "
-               "and OpenCV on the same case run back to back; time is wall-clock time")
+    if res.nruns > 1:
+        out.append(f"- {res.nruns} runs of the whole suite, each benchmark the median of {reps} repetitions of "
+                   f"at least {min_time} s; the library and OpenCV on the same case run back to back. Rates "
+                   "are the median over the runs; ratios are taken within each run, then their median. "
+                   "Time is wall-clock time.")
+    else:
+        out.append(f"- Each benchmark is the median of {reps} repetitions of at least {min_time} s; the "
+                   "library and OpenCV on the same case run back to back. Time is wall-clock time.")
     out.append("")
 
     out.append("## How to read the tables\n")
     out.append("- Mpixel/s is millions of pixels per second (one sample per pixel in these members).")
     out.append("- Library / OpenCV above 1 means the library is faster.")
-    out.append("- Bytes moved per call are every source image plus the destination, each counted once. "
-               "The fraction of copy bandwidth is the member's bytes moved per second divided by those of "
-               "a 64 MiB memcpy (source plus destination) with the same number of threads. It is given only "
-               f"where one call moves at least the last-level cache ({llc // (1 << 20)} MiB), so that the "
-               "data really come from memory; smaller images run from cache and the fraction would mean "
-               "nothing. A memcpy may write around the cache while an ordinary store first reads the line "
-               "it writes, so a kernel with plain stores tops out below 1.")
+    out.append("- Bytes moved per call are every source image plus the destination, each counted once. The "
+               "fraction of copy bandwidth is the member's bytes moved per second divided by those of a "
+               "64 MiB memcpy (source plus destination) with the same number of threads in the same run. It "
+               f"is given only where one call moves at least the last-level cache ({llc // (1 << 20)} MiB), "
+               "so that the data really come from memory; smaller images run from cache and the fraction "
+               "would mean nothing.")
     out.append("- Threads: 1 sets `threads_omp_of_n_pxl = 1` and `cv::setNumThreads(1)`; the larger count "
                "sets both to the number of processors. Whether an OpenCV call actually splits its work is "
                "OpenCV's own choice.")
     out.append("- Same output: whether OpenCV wrote exactly the library's bytes for that case (checked once, "
                "outside the timing).")
-    out.append(f"- `*` marks a row whose repetitions varied by more than {NOISY_CV:.0%} "
-               "(coefficient of variation of the time, library or OpenCV).")
+    if res.nruns > 1:
+        out.append(f"- `*` after a ratio: its value in the separate runs ranged by more than "
+                   f"{NOISY_RATIO_RANGE:.0%} of the median shown.")
+    else:
+        out.append(f"- `*` after a ratio: the repetitions of the library or of OpenCV varied by more than "
+                   f"{NOISY_CV:.0%} (coefficient of variation of the time).")
     out.append("")
 
     out.append("## Noise\n")
@@ -232,33 +322,38 @@ def main():
     if other is not None and wall is not None:
         o, w = float(other), float(wall)
         share = o / w if w > 0 else 0.0
-        out.append(f"Other processes used {o:.1f} CPU-seconds during the {w:.0f} s run "
-                   f"({share:.0%} of one core on average); the run started after waiting {waited or '0'} s "
-                   "for the machine to be quiet.")
+        stolen = float(stats.get("stolen_cpu_seconds", "0"))
+        out.append(f"Other processes used {o:.1f} CPU-seconds during the {w:.0f} s of measuring "
+                   f"({share:.0%} of one core on average), and the hypervisor withheld {stolen:.1f} "
+                   f"CPU-seconds (steal time); measuring started after waiting {waited or '0'} s for the "
+                   "machine to be quiet.")
         if share > 0.05:
             out.append("That is enough to disturb the figures, most of all the rows with all threads, where "
                        "one thread of a parallel region waits for a core that another process holds. Treat "
                        "those rows as lower bounds.")
-        else:
-            out.append("The machine was essentially idle, but it is a shared virtual machine, so differences "
-                       "of a few percent are within noise.")
     else:
-        out.append("The run's load was not recorded (the tool was run without scripts/bench.sh).")
+        out.append("The load during the run was not recorded (the tool was run without scripts/bench.sh).")
+    if res.nruns > 1 and rate_ranges:
+        out.append(f"Even so, the same benchmark's rate differed between runs by {median(rate_ranges):.0%} "
+                   f"(median over all rows; largest {max(rate_ranges):.0%}): this virtual machine's speed "
+                   "drifts. A ratio of two back-to-back measurements drifts less: "
+                   f"{median(ratio_ranges or [0]):.0%} (median; largest {max(ratio_ranges or [0]):.0%}). "
+                   "Read rates as approximate; the list of members slower than OpenCV says in how many "
+                   "runs each one was slower.")
     out.append(f"{noisy_rows} row(s) are marked `*`.\n")
 
     out.append("## Memory bandwidth reference\n")
     out.append("| Operation | Threads | GB/s |")
     out.append("|---|---|---:|")
-    for kind, t, bw, cv in ref_rows:
-        mark = " *" if cv is not None and cv > NOISY_CV else ""
-        out.append(f"| {kind} 64 MiB | {t} | {bw / 1e9:.1f}{mark} |")
+    for kind, t, bw in ref_rows:
+        out.append(f"| {kind} 64 MiB | {t} | {bw / 1e9:.1f} |")
     out.append("")
 
     out.append("## Families\n")
     if above_copy:
-        out.append(f"{above_copy} row(s) moved more bytes per second than the C library's memcpy of a "
-                   "large block did, so on this machine memcpy is not the memory's ceiling: read the "
-                   "fraction as a comparison with memcpy, not as a share of a hard limit.\n")
+        out.append(f"{above_copy} row(s) moved more bytes per second than the C library's memcpy of a large "
+                   "block did in the same run, so on this machine memcpy is not the memory's ceiling: read "
+                   "the fraction as a comparison with memcpy, not as a share of a hard limit.\n")
     out.extend(lines)
 
     out.append("### What the OpenCV column computes\n")
@@ -270,14 +365,14 @@ def main():
     gains = {"lib": [], "cv": []}
     for key, p in pairs.items():
         fam, member, variant, w, h, t = key
-        if t == 1:
-            continue
         one = pairs.get((fam, member, variant, w, h, 1))
-        if not one:
+        if t == 1 or not one:
             continue
         for impl in gains:
-            if p.get(impl) and one.get(impl) and one[impl]["items"]:
-                gains[impl].append(p[impl]["items"] / one[impl]["items"])
+            if p.get(impl) and one.get(impl):
+                a, b = res.rate(p[impl], "items"), res.rate(one[impl], "items")
+                if a and b:
+                    gains[impl].append(a / b)
     if gains["lib"] or gains["cv"]:
         out.append("## From one thread to all\n")
         nthreads = context.get("pxl_threads_all", "all")
@@ -290,11 +385,12 @@ def main():
 
     out.append("## Slower than OpenCV\n")
     if slower:
-        out.append("| Member | Arguments | Size | Threads | Library / OpenCV | Note |")
+        out.append("Members whose median ratio is below 1. A member slower in only some of the runs is "
+                   "close to a tie on this machine.\n")
+        out.append("| Member | Arguments | Size | Threads | Library / OpenCV | Slower in runs |")
         out.append("|---|---|---|---|---:|---|")
-        for member, variant, w, h, t, ratio in slower:
-            note = "within 5%, about the run-to-run noise" if ratio >= 0.95 else ""
-            out.append(f"| `{member}` | {variant or '-'} | {w}x{h} | {t} | {ratio:.2f} | {note} |")
+        for member, variant, w, h, t, ratio, k, n in slower:
+            out.append(f"| `{member}` | {variant or '-'} | {w}x{h} | {t} | {ratio:.2f} | {k} of {n} |")
     else:
         out.append("No member measured here is slower than OpenCV.")
     out.append("")
