@@ -43,6 +43,9 @@ class Member:
         self.call = call          # C++ expression the shim returns
         self.family = family      # heading in the public header
         self.file = file          # family source file that holds the shim
+        self.order = ''           # check order, where the tests may sweep it
+        self.folds = False        # hands over to C1 after the width check
+        self.vector = False       # pxls: a length instead of steps and roi
 
 
 class Family:
@@ -156,12 +159,7 @@ class Custom:
         return self._heading
 
     def members(self):
-        out = []
-        for n, r, a, c in self.entries:
-            m = Member(n, r, a, c, self._heading, self.file)
-            m.order = ''
-            out.append(m)
-        return out
+        return [Member(n, r, a, c, self._heading, self.file) for n, r, a, c in self.entries]
 
 
 def image(stem, **kw):

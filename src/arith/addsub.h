@@ -22,7 +22,7 @@ struct OpAdd {
   }
   template <class V>
   static V saturating(V a, V b) {
-    return simd::addSaturate<Elem<V>>(a, b);
+    return simd::saturating<false, Elem<V>>(a, b);
   }
 };
 
@@ -42,7 +42,7 @@ struct OpSub {
   }
   template <class V>
   static V saturating(V a, V b) {
-    return simd::subSaturate<Elem<V>>(b, a);
+    return simd::saturating<true, Elem<V>>(b, a);
   }
 };
 

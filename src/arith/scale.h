@@ -155,15 +155,26 @@ inline void blockBinary(const R* a, const R* b, R* d, int s) {
   simd::store(d, simd::convert<NV>(scaleRule<P, R>(x, s)));
 }
 
+// The first operand of a saturating run: a row, or one constant in every lane.
+template <class R>
+inline simd::Reg<R> operandAt(const R* row, int i) {
+  return simd::load<simd::Reg<R>>(row + i);
+}
+template <class R>
+inline simd::Reg<R> operandAt(const simd::Reg<R>& constant, int) {
+  return constant;
+}
+
 // Path Zero of 8- and 16-bit types is a plain saturating operation: whole
-// registers of narrow lanes, no widening. Returns the samples done.
-template <class Op, Path P, class R>
-inline int saturatingRun(const R* a, const R* b, R* d, int len) {
+// registers of narrow lanes, no widening. Returns the samples done; the
+// widened blocks and the tail take the rest.
+template <class Op, Path P, class R, class A>
+inline int saturatingRun(const A& a, const R* b, R* d, int len) {
   if constexpr (P == Path::Zero && simd::kHasSaturating<R>) {
-    using V = simd::Reg<R>;
     constexpr int M = simd::kLanes<R>;
     int i = 0;
-    for (; i + M <= len; i += M) simd::store(d + i, Op::saturating(simd::load<V>(a + i), simd::load<V>(b + i)));
+    for (; i + M <= len; i += M)
+      simd::store(d + i, Op::saturating(operandAt<R>(a, i), simd::load<simd::Reg<R>>(b + i)));
     return i;
   } else {
     (void)a, (void)b, (void)d, (void)len;
@@ -175,7 +186,7 @@ inline int saturatingRun(const R* a, const R* b, R* d, int len) {
 template <class Op, Path P, class R>
 void rowBinary(const R* a, const R* b, R* d, int len, int s) {
   constexpr int N = kBlock<R>;
-  int i = saturatingRun<Op, P>(a, b, d, len);
+  int i = saturatingRun<Op, P, R>(a, b, d, len);
   for (; i + N <= len; i += N) blockBinary<Op, P>(a + i, b + i, d + i, s);
   for (; i < len; ++i) d[i] = lane<Op, P>(a[i], b[i], s);
 }
@@ -208,12 +219,7 @@ void rowConst(const R* src, const Pattern<R, Period>& pat, R* d, int len, int s)
   constexpr int step = N % Period;
   int i = 0, phase = 0;
   if constexpr (Period == 1) {
-    if constexpr (P == Path::Zero && simd::kHasSaturating<R>) {
-      using V = simd::Reg<R>;
-      constexpr int M = simd::kLanes<R>;
-      const V c = splat<V>(pat.v[0]);
-      for (; i + M <= len; i += M) simd::store(d + i, Op::saturating(c, simd::load<V>(src + i)));
-    }
+    i = saturatingRun<Op, P, R>(splat<simd::Reg<R>>(pat.v[0]), src, d, len);
     const WV c = splat<WV>(pat.v[0]);
     for (; i + N <= len; i += N) {
       const WV x = Op::exact(c, simd::convert<WV>(simd::load<NV>(src + i)));

@@ -18,8 +18,9 @@ inline int teamSize() {
 }
 
 // A call from inside the caller's own parallel region is not nested: it runs
-// on the caller's thread.
-inline bool mayFork() { return !omp_in_parallel(); }
+// on the caller's thread. A team of one runs there too, without the cost of
+// opening a region that could only run the same loop.
+inline bool mayFork() { return teamSize() > 1 && !omp_in_parallel(); }
 
 // Shape A. With region false the rows run in a plain loop, with no OpenMP
 // region at all (a closed gate or a member without a parallel path).

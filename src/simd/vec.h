@@ -123,20 +123,16 @@ template <class T>
 inline constexpr bool kHasSaturating =
     std::is_same_v<T, std::uint8_t> || std::is_same_v<T, std::uint16_t> || std::is_same_v<T, std::int16_t>;
 
-template <class T>
-inline Reg<T> addSaturate(Reg<T> a, Reg<T> b) {
+// a + b or, with Sub, a - b, saturated to the lane type.
+template <bool Sub, class T>
+inline Reg<T> saturating(Reg<T> a, Reg<T> b) {
   const RawReg x = (RawReg)a, y = (RawReg)b;
-  if constexpr (std::is_same_v<T, std::uint8_t>) return (Reg<T>)PXL_SAT_OP(adds, epu8)(x, y);
-  else if constexpr (std::is_same_v<T, std::uint16_t>) return (Reg<T>)PXL_SAT_OP(adds, epu16)(x, y);
-  else return (Reg<T>)PXL_SAT_OP(adds, epi16)(x, y);
-}
-
-template <class T>
-inline Reg<T> subSaturate(Reg<T> a, Reg<T> b) {
-  const RawReg x = (RawReg)a, y = (RawReg)b;
-  if constexpr (std::is_same_v<T, std::uint8_t>) return (Reg<T>)PXL_SAT_OP(subs, epu8)(x, y);
-  else if constexpr (std::is_same_v<T, std::uint16_t>) return (Reg<T>)PXL_SAT_OP(subs, epu16)(x, y);
-  else return (Reg<T>)PXL_SAT_OP(subs, epi16)(x, y);
+  if constexpr (std::is_same_v<T, std::uint8_t>)
+    return (Reg<T>)(Sub ? PXL_SAT_OP(subs, epu8)(x, y) : PXL_SAT_OP(adds, epu8)(x, y));
+  else if constexpr (std::is_same_v<T, std::uint16_t>)
+    return (Reg<T>)(Sub ? PXL_SAT_OP(subs, epu16)(x, y) : PXL_SAT_OP(adds, epu16)(x, y));
+  else
+    return (Reg<T>)(Sub ? PXL_SAT_OP(subs, epi16)(x, y) : PXL_SAT_OP(adds, epi16)(x, y));
 }
 
 #undef PXL_SAT_OP
