@@ -13,6 +13,8 @@ struct SweepArgs {
   int length;
   int scale;
   const void* value;
+  void* planes[4];  // the plane array of a planar member
+  int order[3];     // a channel order the member accepts
 };
 
 struct SweepEntry {
@@ -22,6 +24,7 @@ struct SweepEntry {
   bool vector;        // pxls: a length instead of steps and roi
   int images;         // image or vector pointers, in argument order
   bool valuePtr;      // the constant is passed by pointer
+  int planar;         // index of the image that is a plane array, or -1
   PxlStatus (*call)(const SweepArgs&);
 };
 

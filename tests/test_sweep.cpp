@@ -28,6 +28,11 @@ std::vector<Case> casesFor(const SweepEntry& e) {
   std::vector<Case> cs;
   for (int i = 0; i < e.images; ++i)
     cs.push_back({"null pointer " + std::to_string(i), [i](SweepArgs& a) { a.img[i] = nullptr; }, pxlStsNullPtr});
+  if (e.planar >= 0) {
+    cs.push_back({"null plane", [](SweepArgs& a) { a.planes[1] = nullptr; }, pxlStsNullPtr});
+    cs.push_back({"null plane and width 0", [](SweepArgs& a) { a.planes[2] = nullptr, a.roi.width = 0; },
+                  e.folds ? pxlStsSize : pxlStsNullPtr});
+  }
   if (e.valuePtr) cs.push_back({"null value", [](SweepArgs& a) { a.value = nullptr; }, pxlStsNullPtr});
   if (e.vector) {
     for (int n : {0, -1}) cs.push_back({"length " + std::to_string(n), [n](SweepArgs& a) { a.length = n; }, pxlStsSize});
@@ -64,7 +69,7 @@ std::vector<Case> casesFor(const SweepEntry& e) {
 TEST(ArgumentSweep, EveryMemberReportsInItsOrderAndWritesNothing) {
   constexpr int kW = 16, kH = 6, kPix = 32, kPad = 32;
   std::vector<std::unique_ptr<TestImage>> imgs;
-  for (int i = 0; i < 3; ++i)
+  for (int i = 0; i < 7; ++i)  // three images, then four planes
     imgs.push_back(std::make_unique<TestImage>(kW, kH, kPix, kPad, kPad, Place::Back, 11 + i));
   alignas(16) unsigned char values[64];
   for (int i = 0; i < 64; ++i) values[i] = static_cast<unsigned char>(i + 1);  // distinct constants
@@ -78,12 +83,16 @@ TEST(ArgumentSweep, EveryMemberReportsInItsOrderAndWritesNothing) {
       a.length = 8;
       a.scale = 0;
       a.value = values;
+      for (int p = 0; p < 4; ++p) a.planes[p] = imgs[3 + p]->roi();
+      a.order[0] = 2, a.order[1] = 1, a.order[2] = 0;
+      if (e.planar >= 0) a.img[e.planar] = a.planes;
       c.apply(a);
       std::vector<std::vector<std::uint8_t>> before;
       for (auto& im : imgs) before.push_back(im->snapshot());
       const PxlStatus st = e.call(a);
       EXPECT_EQ(st, c.expect) << e.name << ": " << c.what;
-      for (int i = 0; i < 3; ++i) EXPECT_TRUE(imgs[i]->unchanged(before[i])) << e.name << " wrote on " << c.what;
+      for (std::size_t i = 0; i < imgs.size(); ++i)
+        EXPECT_TRUE(imgs[i]->unchanged(before[i])) << e.name << " wrote on " << c.what;
       ++checked;
     }
   }

@@ -116,6 +116,15 @@ def shim_texts(members):
     return texts
 
 
+# Arguments behind the grammar's base list, given a value the member accepts,
+# so that the sweep's faults are the only ones in a call.
+SWEEP_GOOD = {
+    'roundMode': '1', 'axis': '0', 'hint': '1', 'vMin': '0.0f', 'vMax': '1.0f',
+    'dstOrder': 'a.order', 'top': '1', 'left': '1', 'srcRoi': 'a.roi',
+    'dstRoi': 'PxlSize{a.roi.width + 2, a.roi.height + 2}',
+}
+
+
 def sweep_text(members):
     """A table for the tests' bad-argument sweep: every member with a known
     check order, with a thunk that calls it from one generic argument set."""
@@ -124,14 +133,12 @@ def sweep_text(members):
     for m in members:
         if not m.order:
             continue
-        args, nimg, nstep, value_ptr = [], 0, 0, False
+        args, nimg, nstep, value_ptr, planar = [], 0, 0, False, -1
         for t, n in m.args:
-            if n == 'roi':
-                args.append('a.roi')
-            elif n == 'length':
-                args.append('a.length')
-            elif n == 'scale':
-                args.append('a.scale')
+            if n in ('roi', 'length', 'scale'):
+                args.append('a.' + n)
+            elif n in SWEEP_GOOD:
+                args.append(SWEEP_GOOD[n])
             elif n == 'value':
                 if t.endswith('*'):
                     value_ptr = True
@@ -142,13 +149,15 @@ def sweep_text(members):
                 args.append(f'a.step[{nstep}]')
                 nstep += 1
             elif t.endswith('*'):
+                if t.endswith('* const*'):
+                    planar = nimg
                 args.append(f'({t})a.img[{nimg}]')
                 nimg += 1
             else:
                 raise SystemExit(f'sweep: no rule for argument {n} of {m.name}')
         call = f'{m.name}({", ".join(args)})'
         out.append(f'  {{"{m.name}", "{m.order}", {str(m.folds).lower()}, {str(m.vector).lower()}, '
-                   f'{nimg}, {str(value_ptr).lower()},')
+                   f'{nimg}, {str(value_ptr).lower()}, {planar},')
         out.append(f'   [](const SweepArgs& a) -> PxlStatus {{ return {call}; }}}},')
     out += ['};', '']
     return '\n'.join(out)

@@ -52,7 +52,11 @@ class Family:
     """An image (pxli) or vector (pxls) family expanded by the naming grammar.
 
     shape: 'binary' two sources; 'unary' one source; 'const' a constant
-    operand (stems ending in C); 'set' a value and a destination.
+    operand (stems ending in C); 'set' a value and a destination; 'zero' a
+    destination only; 'border' a source ROI inside a larger destination ROI
+    (srcRoi, dstRoi, top, left); 'constborder' the same with a fill value
+    last. Planar layouts (P3, C3P3, P3C3, ...) pass an array of plane
+    pointers for their planar side.
     desc: descriptors after the layout, e.g. 'RSfs IRSfs' or 'R IR'; for
     vector families the suffix after the type, '' for none ('Sfs ISfs', ' I').
     extra: [(c type, name)] behind roi (and mask), before scale.
@@ -101,7 +105,7 @@ class Family:
         sfs = desc.endswith('Sfs')
         s, d = split_types(tcode)
         S, D = CTYPE[s], CTYPE[d]
-        args = self._base_args(S, D, lay, inplace, 'CR' in desc)
+        args = self._base_args(S, D, lay or '', inplace, 'CR' in desc)
         if masked:
             args += [('const Pxl8u*', 'mask'), ('int', 'maskStep')]
         args += self.extra
@@ -123,6 +127,9 @@ class Family:
         else:
             V = S
         roi = [('PxlSize', 'roi')] if img else [('int', 'length')]
+        # A planar side is an array of plane pointers sharing one step.
+        src_t = f'const {S}* const*' if lay.startswith('P') else f'const {S}*'
+        dst_t = f'{D}* const*' if lay.endswith(('P3', 'P4')) else f'{D}*'
 
         def im(t, n):
             return [(t, n), ('int', n + 'Step')] if img else [(t, n)]
@@ -130,18 +137,28 @@ class Family:
         sh = self.shape
         if sh == 'binary':
             if inplace:
-                return im(f'const {S}*', 'src') + im(f'{D}*', 'srcDst') + roi
-            return im(f'const {S}*', 'src1') + im(f'const {S}*', 'src2') + im(f'{D}*', 'dst') + roi
+                return im(src_t, 'src') + im(f'{D}*', 'srcDst') + roi
+            return im(src_t, 'src1') + im(src_t, 'src2') + im(dst_t, 'dst') + roi
         if sh == 'unary':
             if inplace:
                 return im(f'{D}*', 'srcDst') + roi
-            return im(f'const {S}*', 'src') + im(f'{D}*', 'dst') + roi
+            return im(src_t, 'src') + im(dst_t, 'dst') + roi
         if sh == 'const':
             if inplace:
                 return [(V, 'value')] + im(f'{D}*', 'srcDst') + roi
-            return im(f'const {S}*', 'src') + [(V, 'value')] + im(f'{D}*', 'dst') + roi
+            return im(src_t, 'src') + [(V, 'value')] + im(dst_t, 'dst') + roi
         if sh == 'set':
-            return [(V, 'value')] + im(f'{D}*', 'dst') + roi
+            return [(V, 'value')] + im(dst_t, 'dst') + roi
+        if sh == 'zero':
+            return im(dst_t, 'dst') + roi
+        if sh in ('border', 'constborder'):
+            where = [('int', 'top'), ('int', 'left')]
+            if inplace:
+                args = im(f'{D}*', 'srcDst') + [('PxlSize', 'srcRoi'), ('PxlSize', 'dstRoi')] + where
+            else:
+                args = im(src_t, 'src') + [('PxlSize', 'srcRoi')] + im(dst_t, 'dst') + \
+                    [('PxlSize', 'dstRoi')] + where
+            return args + ([(V, 'value')] if sh == 'constborder' else [])
         raise ValueError('unknown shape ' + sh)
 
 
