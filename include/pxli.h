@@ -491,6 +491,274 @@ PXL_API void PXL_CALL pxliFree(void* ptr);
 /* ---- pxliGetLibVersion: the static version record of this build */
 PXL_API const PxlLibVersion* PXL_CALL pxliGetLibVersion(void);
 
+/* ---- pxliCopy: dst = src; AC4 leaves the alpha of dst */
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C1R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C3R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C4R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_AC4R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+
+/* ---- pxliCopy */
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C1MR(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C3MR(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C4MR(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_AC4MR(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C1MR(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C3MR(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C4MR(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_AC4MR(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C1MR(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C3MR(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C4MR(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_AC4MR(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C1MR(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C3MR(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C4MR(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_AC4MR(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep);
+
+/* ---- pxliCopy */
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C3CR(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C4CR(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C3CR(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C4CR(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C3CR(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C4CR(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C3CR(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C4CR(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+
+/* ---- pxliCopy */
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C3C1R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C4C1R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C1C3R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C1C4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_AC4C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C3AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C3C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C4C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C1C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C1C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_AC4C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C3AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C3C1R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C4C1R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C1C3R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C1C4R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_AC4C3R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C3AC4R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C3C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C4C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C1C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C1C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_AC4C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C3AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+
+/* ---- pxliCopy */
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C3P3R(const Pxl8u* src, int srcStep, Pxl8u* const* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_C4P4R(const Pxl8u* src, int srcStep, Pxl8u* const* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_P3C3R(const Pxl8u* const* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_8u_P4C4R(const Pxl8u* const* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C3P3R(const Pxl16s* src, int srcStep, Pxl16s* const* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_C4P4R(const Pxl16s* src, int srcStep, Pxl16s* const* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_P3C3R(const Pxl16s* const* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_16s_P4C4R(const Pxl16s* const* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C3P3R(const Pxl32s* src, int srcStep, Pxl32s* const* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_C4P4R(const Pxl32s* src, int srcStep, Pxl32s* const* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_P3C3R(const Pxl32s* const* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32s_P4C4R(const Pxl32s* const* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C3P3R(const Pxl32f* src, int srcStep, Pxl32f* const* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_C4P4R(const Pxl32f* src, int srcStep, Pxl32f* const* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_P3C3R(const Pxl32f* const* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliCopy_32f_P4C4R(const Pxl32f* const* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+
+/* ---- pxliSet: every processed sample = value (C1, CR: by value; else one per channel) */
+PXL_API PxlStatus PXL_CALL pxliSet_8u_C1R(Pxl8u value, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_8u_C3R(const Pxl8u* value, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_8u_C4R(const Pxl8u* value, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_8u_AC4R(const Pxl8u* value, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_16s_C1R(Pxl16s value, Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_16s_C3R(const Pxl16s* value, Pxl16s* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_16s_C4R(const Pxl16s* value, Pxl16s* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_16s_AC4R(const Pxl16s* value, Pxl16s* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_32s_C1R(Pxl32s value, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_32s_C3R(const Pxl32s* value, Pxl32s* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_32s_C4R(const Pxl32s* value, Pxl32s* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_32s_AC4R(const Pxl32s* value, Pxl32s* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_32f_C1R(Pxl32f value, Pxl32f* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_32f_C3R(const Pxl32f* value, Pxl32f* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_32f_C4R(const Pxl32f* value, Pxl32f* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_32f_AC4R(const Pxl32f* value, Pxl32f* dst, int dstStep,
+    PxlSize roi);
+
+/* ---- pxliSet */
+PXL_API PxlStatus PXL_CALL pxliSet_8u_C3CR(Pxl8u value, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_8u_C4CR(Pxl8u value, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_16s_C3CR(Pxl16s value, Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_16s_C4CR(Pxl16s value, Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_32s_C3CR(Pxl32s value, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_32s_C4CR(Pxl32s value, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_32f_C3CR(Pxl32f value, Pxl32f* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliSet_32f_C4CR(Pxl32f value, Pxl32f* dst, int dstStep, PxlSize roi);
+
+/* ---- pxliSet */
+PXL_API PxlStatus PXL_CALL pxliSet_8u_C1MR(Pxl8u value, Pxl8u* dst, int dstStep, PxlSize roi,
+    const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_8u_C3MR(const Pxl8u* value, Pxl8u* dst, int dstStep, PxlSize roi,
+    const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_8u_C4MR(const Pxl8u* value, Pxl8u* dst, int dstStep, PxlSize roi,
+    const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_8u_AC4MR(const Pxl8u* value, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_16s_C1MR(Pxl16s value, Pxl16s* dst, int dstStep, PxlSize roi,
+    const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_16s_C3MR(const Pxl16s* value, Pxl16s* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_16s_C4MR(const Pxl16s* value, Pxl16s* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_16s_AC4MR(const Pxl16s* value, Pxl16s* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_32s_C1MR(Pxl32s value, Pxl32s* dst, int dstStep, PxlSize roi,
+    const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_32s_C3MR(const Pxl32s* value, Pxl32s* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_32s_C4MR(const Pxl32s* value, Pxl32s* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_32s_AC4MR(const Pxl32s* value, Pxl32s* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_32f_C1MR(Pxl32f value, Pxl32f* dst, int dstStep, PxlSize roi,
+    const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_32f_C3MR(const Pxl32f* value, Pxl32f* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_32f_C4MR(const Pxl32f* value, Pxl32f* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+PXL_API PxlStatus PXL_CALL pxliSet_32f_AC4MR(const Pxl32f* value, Pxl32f* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, int maskStep);
+
+/* ---- pxliDup: each of the three samples of dst = src */
+PXL_API PxlStatus PXL_CALL pxliDup_8u_C1C3R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+
+/* ---- pxliSwapChannels: dst[c] = src[dstOrder[c]], entries 0 to 2, not necessarily a permutation */
+PXL_API PxlStatus PXL_CALL pxliSwapChannels_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const int* dstOrder);
+PXL_API PxlStatus PXL_CALL pxliSwapChannels_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const int* dstOrder);
+PXL_API PxlStatus PXL_CALL pxliSwapChannels_16u_C3R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, const int* dstOrder);
+PXL_API PxlStatus PXL_CALL pxliSwapChannels_16u_AC4R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, const int* dstOrder);
+PXL_API PxlStatus PXL_CALL pxliSwapChannels_32s_C3R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi, const int* dstOrder);
+PXL_API PxlStatus PXL_CALL pxliSwapChannels_32s_AC4R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi, const int* dstOrder);
+PXL_API PxlStatus PXL_CALL pxliSwapChannels_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const int* dstOrder);
+PXL_API PxlStatus PXL_CALL pxliSwapChannels_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const int* dstOrder);
+
+/* ---- pxliSwapChannels */
+PXL_API PxlStatus PXL_CALL pxliSwapChannels_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const int* dstOrder);
+
 #ifdef __cplusplus
 }
 #endif

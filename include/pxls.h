@@ -115,6 +115,28 @@ PXL_API Pxl64fc* PXL_CALL pxlsMalloc_64fc(int length);
 /* ---- pxlsFree: free a block of the allocators; NULL is ignored */
 PXL_API void PXL_CALL pxlsFree(void* ptr);
 
+/* ---- pxlsCopy: dst = src; the ranges must not overlap */
+PXL_API PxlStatus PXL_CALL pxlsCopy_8u(const Pxl8u* src, Pxl8u* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsCopy_32f(const Pxl32f* src, Pxl32f* dst, int length);
+
+/* ---- pxlsMove: dst = src; the ranges may overlap */
+PXL_API PxlStatus PXL_CALL pxlsMove_16s(const Pxl16s* src, Pxl16s* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsMove_32f(const Pxl32f* src, Pxl32f* dst, int length);
+
+/* ---- pxlsSet: every element = value */
+PXL_API PxlStatus PXL_CALL pxlsSet_8u(Pxl8u value, Pxl8u* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsSet_16s(Pxl16s value, Pxl16s* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsSet_32s(Pxl32s value, Pxl32s* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsSet_32f(Pxl32f value, Pxl32f* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsSet_16sc(Pxl16sc value, Pxl16sc* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsSet_32fc(Pxl32fc value, Pxl32fc* dst, int length);
+
+/* ---- pxlsZero: every element = 0 */
+PXL_API PxlStatus PXL_CALL pxlsZero_8u(Pxl8u* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsZero_16s(Pxl16s* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsZero_32f(Pxl32f* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsZero_16sc(Pxl16sc* dst, int length);
+
 #ifdef __cplusplus
 }
 #endif

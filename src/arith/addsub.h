@@ -8,7 +8,8 @@
 #include "arith/scale.h"
 #include "frame/frame.h"
 #include "frame/rowdriver.h"
-#include "move/standin.h"
+#include "move/copy.h"
+#include "move/set.h"
 
 namespace pxl::arith {
 

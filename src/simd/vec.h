@@ -138,3 +138,24 @@ inline Reg<T> saturating(Reg<T> a, Reg<T> b) {
 #undef PXL_SAT_OP
 
 }  // namespace pxl::simd
+
+// Streaming stores: a whole register written around the cache, for
+// destinations too large to stay in it (saves reading each line before it is
+// overwritten). p must be aligned to kBytes. Such stores are weakly ordered:
+// a call that used them ends with storeFence() before it returns, so that its
+// results are visible in order to the caller's thread and any other.
+namespace pxl::simd {
+
+template <class V>
+inline void streamStore(void* p, V v) {
+  static_assert(sizeof(V) == kBytes, "one whole register");
+#if defined(__AVX2__)
+  _mm256_stream_si256(static_cast<__m256i*>(p), (__m256i)v);
+#else
+  _mm_stream_si128(static_cast<__m128i*>(p), (__m128i)v);
+#endif
+}
+
+inline void storeFence() { _mm_sfence(); }
+
+}  // namespace pxl::simd
