@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <cwchar>
 
 #include "simd/vec.h"
 
@@ -31,9 +32,17 @@ struct FillPattern {
   static constexpr int kPeriod = P / gcdOf(P, simd::kBytes) * simd::kBytes;
   static constexpr int kRegs = kPeriod / simd::kBytes;
   std::uint8_t bytes[kPeriod + simd::kBytes];
+  // The pattern repeats every byte (a zero fill, most 8-bit fills) or every
+  // 4 bytes: then the system's memset or wmemset does the cached fill, with
+  // the widest stores of the processor it runs on.
+  bool byteWise = true, wordWise = true;
   explicit FillPattern(const void* pixel) {
     const auto* px = static_cast<const std::uint8_t*>(pixel);
     for (int i = 0; i < kPeriod + simd::kBytes; ++i) bytes[i] = px[i % P];
+    for (int i = 0; i < kPeriod; ++i) {
+      byteWise = byteWise && bytes[i] == bytes[0];
+      wordWise = wordWise && bytes[i] == bytes[i % 4];
+    }
   }
 };
 
@@ -59,9 +68,19 @@ std::size_t fillRegisters(std::uint8_t* d, std::size_t i, std::size_t n, const F
 template <int P>
 void fillRow(std::uint8_t* d, const FillPattern<P>& pat, std::size_t n, bool stream) {
   constexpr int B = simd::kBytes, Period = FillPattern<P>::kPeriod;
+  if (pat.byteWise) {
+    std::memset(d, pat.bytes[0], n);
+    return;
+  }
   std::size_t i = 0;
   int phase = 0;
-  if (stream && n >= 2 * B) {
+  if (!stream && pat.wordWise && n >= 4) {
+    static_assert(sizeof(wchar_t) == 4, "wmemset fills 4-byte words");
+    wchar_t w;
+    std::memcpy(&w, pat.bytes, 4);
+    std::wmemset(reinterpret_cast<wchar_t*>(d), w, n / 4);
+    i = n / 4 * 4;
+  } else if (stream && n >= 2 * B) {
     i = (0 - reinterpret_cast<std::uintptr_t>(d)) & (B - 1);
     std::memcpy(d, pat.bytes, i);
     phase = int(i % Period);
