@@ -83,8 +83,22 @@ inline PxlStatus fillZero(T* dst, int dstStep, PxlSize roi) {
 }
 
 template <class R>
-inline bool overlapsElsewhere(const R* d, const R* s, int len) {
+inline bool overlapsElsewhere(const R* d, const R* s, std::size_t len) {
   return d != s && d < s + len && s < d + len;
+}
+
+// The shape a serial walk takes: gapless images with no destination
+// overlapping a source elsewhere are one long row.
+template <Lay L, class T>
+inline PxlSize serialShape(const T* a, int aStep, const T* b, int bStep, const T* d, int dStep, PxlSize roi) {
+  const std::size_t rowBytes = std::size_t(roi.width) * channelsOf(L) * sizeof(T);
+  const PxlSize one = gaplessShape(roi, rowBytes, aStep, bStep, dStep);
+  if (one.height != 1 || roi.height == 1) return roi;
+  const std::size_t all = rowBytes * std::size_t(roi.height);
+  const auto* ad = reinterpret_cast<const char*>(d);
+  const auto* aa = reinterpret_cast<const char*>(a);
+  const auto* ab = reinterpret_cast<const char*>(b);
+  return overlapsElsewhere(ad, aa, all) || overlapsElsewhere(ad, ab, all) ? roi : one;
 }
 
 // ------------------------------------------------------------ two images
@@ -116,21 +130,23 @@ PxlStatus binaryMember(const T* a, int aStep, const T* b, int bStep, T* d, int d
     const GateKey key{Op::kFam, typeTagOf<T>(), L, inPlace};
     withPath<R>(path, [&](auto pc) {
       constexpr Path P = decltype(pc)::value;
+      const bool region = regionOpens(key, bitOf(P), roi) && mayFork();
+      const PxlSize walk = region ? roi : serialShape<L>(a, aStep, b, bStep, d, dStep, roi);
       auto row = [&](int y) {
         const R* ra = reinterpret_cast<const R*>(rowAt(a, aStep, y));
         const R* rb = reinterpret_cast<const R*>(rowAt(b, bStep, y));
         R* rd = reinterpret_cast<R*>(rowAt(d, dStep, y));
         if constexpr (L == Lay::AC4) {
-          rowBinaryAC4<Op, P, R, parts>(ra, rb, rd, roi.width, scale);
+          rowBinaryAC4<Op, P, R, parts>(ra, rb, rd, walk.width, scale);
         } else {
-          const int len = roi.width * parts;
+          const int len = walk.width * parts;
           if (kIs16u<T> && (overlapsElsewhere(rd, ra, len) || overlapsElsewhere(rd, rb, len)))
             rowBinaryOrdered<Op, P>(ra, rb, rd, len, scale);
           else
             rowBinary<Op, P>(ra, rb, rd, len, scale);
         }
       };
-      rowsShapeA(key, bitOf(P), roi, row);
+      rowsShapeA(walk.height, region, row);
     });
     return pxlStsOk;
   }
@@ -155,10 +171,12 @@ void constRows(const T* src, int srcStep, const PartOf<T>* values, T* dst, int d
                Path path, const GateKey& key) {
   using R = PartOf<T>;
   const Pattern<R, Period> pat(values);
-  const int len = roi.width * Period;
   withPath<R>(path, [&](auto pc) {
     constexpr Path P = decltype(pc)::value;
-    rowsShapeA(key, bitOf(P), roi, [&](int y) {
+    const bool region = regionOpens(key, bitOf(P), roi) && mayFork();
+    const PxlSize walk = region ? roi : serialShape<L>(src, srcStep, src, srcStep, dst, dstStep, roi);
+    const int len = walk.width * Period;
+    rowsShapeA(walk.height, region, [&](int y) {
       rowConst<Op, P, R, Period>(reinterpret_cast<const R*>(rowAt(src, srcStep, y)), pat,
                                  reinterpret_cast<R*>(rowAt(dst, dstStep, y)), len, scale);
     });

@@ -165,9 +165,10 @@ inline simd::Reg<R> operandAt(const simd::Reg<R>& constant, int) {
   return constant;
 }
 
-// Path Zero of 8- and 16-bit types is a plain saturating operation: whole
-// registers of narrow lanes, no widening. Returns the samples done; the
-// widened blocks and the tail take the rest.
+// Path Zero of 8- and 16-bit types is a plain saturating operation, and the
+// unsigned sum at scale 1 an average: whole registers of narrow lanes, no
+// widening. Returns the samples done; the widened blocks and the tail take
+// the rest.
 template <class Op, Path P, class R, class A>
 inline int saturatingRun(const A& a, const R* b, R* d, int len) {
   if constexpr (P == Path::Zero && simd::kHasSaturating<R>) {
@@ -175,6 +176,20 @@ inline int saturatingRun(const A& a, const R* b, R* d, int len) {
     int i = 0;
     for (; i + M <= len; i += M)
       simd::store(d + i, Op::saturating(operandAt<R>(a, i), simd::load<simd::Reg<R>>(b + i)));
+    return i;
+  } else if constexpr (P == Path::One && !Op::kSub && (std::is_same_v<R, std::uint8_t> || std::is_same_v<R, std::uint16_t>)) {
+    // The unsigned sum halved: the rounded-up average, less one where the
+    // sum is odd (a ^ b odd) and the average came out odd, which is exactly
+    // the tie that goes down to the even neighbour.
+    using V = simd::Reg<R>;
+    constexpr int M = simd::kLanes<R>;
+    const V one = splat<V>(1);
+    int i = 0;
+    for (; i + M <= len; i += M) {
+      const V x = operandAt<R>(a, i), y = simd::load<V>(b + i);
+      const V up = simd::averageUp<R>(x, y);
+      simd::store(d + i, V(up - ((x ^ y) & up & one)));
+    }
     return i;
   } else {
     (void)a, (void)b, (void)d, (void)len;

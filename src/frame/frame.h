@@ -4,6 +4,9 @@
 // and every member goes through the same helper instead of spelling it out.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+
 #include "frame/types.h"
 
 namespace pxl {
@@ -36,6 +39,19 @@ inline PxlStatus checkShape(PxlSize roi, S... steps) {
     if (badStep(steps...)) return pxlStsStep;
   }
   return pxlStsOk;
+}
+
+// Whether an image's rows follow one another with no gap.
+inline bool gapless(int step, std::size_t rowBytes) { return step > 0 && std::size_t(step) == rowBytes; }
+
+// A serial walk over images whose rows all follow one another with no gap
+// is one row of all the pixels, so that a narrow image pays a row's start-up
+// cost once. Returns the shape to walk: the ROI, or one long row.
+template <class... S>
+inline PxlSize gaplessShape(PxlSize roi, std::size_t rowBytes, S... steps) {
+  if ((gapless(steps, rowBytes) && ...) && std::int64_t(roi.width) * roi.height <= INT32_MAX)
+    return {roi.width * roi.height, 1};
+  return roi;
 }
 
 // Channel folding: a C3 or C4 member that hands over to its C1 member looks

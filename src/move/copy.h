@@ -19,10 +19,6 @@ inline const std::uint8_t* bytesOf(const T* p) {
   return reinterpret_cast<const std::uint8_t*>(p);
 }
 
-// Whether an image's rows follow one another with no gap: then it is walked
-// as one row, so that a narrow image pays a row's start-up cost only once.
-inline bool gapless(int step, std::size_t rowBytes) { return step > 0 && std::size_t(step) == rowBytes; }
-
 template <class T, Lay L>
 PxlStatus copyImage(const T* src, int srcStep, T* dst, int dstStep, PxlSize roi) {
   if (anyNull(src, dst)) return pxlStsNullPtr;

@@ -135,6 +135,16 @@ inline Reg<T> saturating(Reg<T> a, Reg<T> b) {
     return (Reg<T>)(Sub ? PXL_SAT_OP(subs, epi16)(x, y) : PXL_SAT_OP(adds, epi16)(x, y));
 }
 
+// (a + b + 1) >> 1 without overflow, for unsigned 8- and 16-bit lanes.
+template <class T>
+inline Reg<T> averageUp(Reg<T> a, Reg<T> b) {
+  const RawReg x = (RawReg)a, y = (RawReg)b;
+  if constexpr (std::is_same_v<T, std::uint8_t>)
+    return (Reg<T>)PXL_SAT_OP(avg, epu8)(x, y);
+  else
+    return (Reg<T>)PXL_SAT_OP(avg, epu16)(x, y);
+}
+
 #undef PXL_SAT_OP
 
 }  // namespace pxl::simd
