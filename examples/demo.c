@@ -138,6 +138,25 @@ int main(int argc, char** argv) {
         }
     writePnm(dir, "vignette", d, s3, 1);
 
+    /* Data movement: the colour image with red and blue exchanged, its
+     * green channel alone, and the change mask painted red on it. */
+    {
+        static const int bgr[3] = {2, 1, 0};
+        static const Pxl8u red[3] = {255, 0, 0};
+        int sc2;
+        Pxl8u* swapped = pxliMalloc_8u_C3(W, H, &sc2);
+        t0 = nowMs();
+        ok &= pxliSwapChannels_8u_C3R(color, sc, swapped, sc2, roi, bgr) == pxlStsOk;
+        ok &= pxliCopy_8u_C3C1R(color + 1, sc, d, s3, roi) == pxlStsOk;
+        t[nt++] = (struct Timing){"SwapChannels+Copy", nowMs() - t0};
+        writePnm(dir, "swapped_color", swapped, sc2, 3);
+        writePnm(dir, "green_channel", d, s3, 1);
+        ok &= pxliSub_8u_C1RSfs(b, s2, a, s1, d, s3, roi, -8) == pxlStsOk; /* the change mask again */
+        ok &= pxliSet_8u_C3MR(red, swapped, sc2, roi, d, s3) == pxlStsOk;
+        writePnm(dir, "changes_marked", swapped, sc2, 3);
+        pxliFree(swapped);
+    }
+
     printf("pxl_demo %s: %s, %d results in %s, %d threads (", pxliGetLibVersion()->versionText,
            ok ? "ok" : "FAILED", nt + 0, dir, threads_omp_of_n_pxl);
     for (int i = 0; i < nt; ++i) printf("%s%s %.3f ms", i ? ", " : "", t[i].name, t[i].ms);
