@@ -759,6 +759,112 @@ PXL_API PxlStatus PXL_CALL pxliSwapChannels_32f_AC4R(const Pxl32f* src, int srcS
 PXL_API PxlStatus PXL_CALL pxliSwapChannels_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
     const int* dstOrder);
 
+/* ---- pxliAlphaComp: src1 composed with src2 by the operator; AC4 and AP4 write the alpha result */
+PXL_API PxlStatus PXL_CALL pxliAlphaComp_8u_AC4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaComp_8u_AC1R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaComp_8u_AP4R(const Pxl8u* const* src1, int src1Step,
+    const Pxl8u* const* src2, int src2Step, Pxl8u* const* dst, int dstStep, PxlSize roi,
+    int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaComp_16u_AC4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, Pxl16u* dst, int dstStep, PxlSize roi, int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaComp_16u_AC1R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, Pxl16u* dst, int dstStep, PxlSize roi, int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaComp_16u_AP4R(const Pxl16u* const* src1, int src1Step,
+    const Pxl16u* const* src2, int src2Step, Pxl16u* const* dst, int dstStep, PxlSize roi,
+    int alphaType);
+
+/* ---- pxliAlphaCompC: composition with one constant alpha per source */
+PXL_API PxlStatus PXL_CALL pxliAlphaCompC_8u_C1R(const Pxl8u* src1, int src1Step, Pxl8u alpha1,
+    const Pxl8u* src2, int src2Step, Pxl8u alpha2, Pxl8u* dst, int dstStep, PxlSize roi,
+    int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaCompC_8u_C3R(const Pxl8u* src1, int src1Step, Pxl8u alpha1,
+    const Pxl8u* src2, int src2Step, Pxl8u alpha2, Pxl8u* dst, int dstStep, PxlSize roi,
+    int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaCompC_8u_C4R(const Pxl8u* src1, int src1Step, Pxl8u alpha1,
+    const Pxl8u* src2, int src2Step, Pxl8u alpha2, Pxl8u* dst, int dstStep, PxlSize roi,
+    int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaCompC_8u_AC4R(const Pxl8u* src1, int src1Step, Pxl8u alpha1,
+    const Pxl8u* src2, int src2Step, Pxl8u alpha2, Pxl8u* dst, int dstStep, PxlSize roi,
+    int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaCompC_8u_AP4R(const Pxl8u* const* src1, int src1Step,
+    Pxl8u alpha1, const Pxl8u* const* src2, int src2Step, Pxl8u alpha2, Pxl8u* const* dst,
+    int dstStep, PxlSize roi, int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaCompC_16u_C1R(const Pxl16u* src1, int src1Step, Pxl16u alpha1,
+    const Pxl16u* src2, int src2Step, Pxl16u alpha2, Pxl16u* dst, int dstStep, PxlSize roi,
+    int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaCompC_16u_C3R(const Pxl16u* src1, int src1Step, Pxl16u alpha1,
+    const Pxl16u* src2, int src2Step, Pxl16u alpha2, Pxl16u* dst, int dstStep, PxlSize roi,
+    int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaCompC_16u_C4R(const Pxl16u* src1, int src1Step, Pxl16u alpha1,
+    const Pxl16u* src2, int src2Step, Pxl16u alpha2, Pxl16u* dst, int dstStep, PxlSize roi,
+    int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaCompC_16u_AC4R(const Pxl16u* src1, int src1Step, Pxl16u alpha1,
+    const Pxl16u* src2, int src2Step, Pxl16u alpha2, Pxl16u* dst, int dstStep, PxlSize roi,
+    int alphaType);
+PXL_API PxlStatus PXL_CALL pxliAlphaCompC_16u_AP4R(const Pxl16u* const* src1, int src1Step,
+    Pxl16u alpha1, const Pxl16u* const* src2, int src2Step, Pxl16u alpha2, Pxl16u* const* dst,
+    int dstStep, PxlSize roi, int alphaType);
+
+/* ---- pxliAlphaPremul: colour samples times the pixel's alpha; alpha unchanged */
+PXL_API PxlStatus PXL_CALL pxliAlphaPremul_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremul_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremul_8u_AP4R(const Pxl8u* const* src, int srcStep,
+    Pxl8u* const* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremul_8u_AP4IR(Pxl8u* const* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremul_16u_AC4R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremul_16u_AC4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremul_16u_AP4R(const Pxl16u* const* src, int srcStep,
+    Pxl16u* const* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremul_16u_AP4IR(Pxl16u* const* srcDst, int srcDstStep,
+    PxlSize roi);
+
+/* ---- pxliAlphaPremulC: every sample times the constant alpha */
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u alpha,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_8u_C1IR(Pxl8u alpha, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u alpha,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_8u_C3IR(Pxl8u alpha, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u alpha,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_8u_C4IR(Pxl8u alpha, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u alpha,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_8u_AC4IR(Pxl8u alpha, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_8u_AP4R(const Pxl8u* const* src, int srcStep,
+    Pxl8u alpha, Pxl8u* const* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_8u_AP4IR(Pxl8u alpha, Pxl8u* const* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_16u_C1R(const Pxl16u* src, int srcStep, Pxl16u alpha,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_16u_C1IR(Pxl16u alpha, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_16u_C3R(const Pxl16u* src, int srcStep, Pxl16u alpha,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_16u_C3IR(Pxl16u alpha, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_16u_C4R(const Pxl16u* src, int srcStep, Pxl16u alpha,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_16u_C4IR(Pxl16u alpha, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_16u_AC4R(const Pxl16u* src, int srcStep, Pxl16u alpha,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_16u_AC4IR(Pxl16u alpha, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_16u_AP4R(const Pxl16u* const* src, int srcStep,
+    Pxl16u alpha, Pxl16u* const* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_16u_AP4IR(Pxl16u alpha, Pxl16u* const* srcDst,
+    int srcDstStep, PxlSize roi);
+
 #ifdef __cplusplus
 }
 #endif

@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/deps.sh
-cmake -S . -B build -DCMAKE_BUILD_TYPE=Release -DPXL_BUILD_TESTS=OFF -DPXL_BUILD_EXAMPLES=ON >/dev/null
-cmake --build build -j"$(nproc)" --target pxl_demo
+cmake -S . -B build-demo -DCMAKE_BUILD_TYPE=Release -DPXL_BUILD_TESTS=OFF -DPXL_BUILD_EXAMPLES=ON >/dev/null
+cmake --build build-demo -j"$(nproc)" --target pxl_demo
 mkdir -p out/demo
-build/examples/pxl_demo out/demo
+build-demo/examples/pxl_demo out/demo

@@ -24,7 +24,7 @@ struct SweepEntry {
   bool vector;        // pxls: a length instead of steps and roi
   int images;         // image or vector pointers, in argument order
   bool valuePtr;      // the constant is passed by pointer
-  int planar;         // index of the image that is a plane array, or -1
+  int planar;         // bit i set: image i is a plane array
   PxlStatus (*call)(const SweepArgs&);
 };
 

@@ -28,7 +28,7 @@ std::vector<Case> casesFor(const SweepEntry& e) {
   std::vector<Case> cs;
   for (int i = 0; i < e.images; ++i)
     cs.push_back({"null pointer " + std::to_string(i), [i](SweepArgs& a) { a.img[i] = nullptr; }, pxlStsNullPtr});
-  if (e.planar >= 0) {
+  if (e.planar != 0) {
     cs.push_back({"null plane", [](SweepArgs& a) { a.planes[1] = nullptr; }, pxlStsNullPtr});
     cs.push_back({"null plane and width 0", [](SweepArgs& a) { a.planes[2] = nullptr, a.roi.width = 0; },
                   e.folds ? pxlStsSize : pxlStsNullPtr});
@@ -85,7 +85,8 @@ TEST(ArgumentSweep, EveryMemberReportsInItsOrderAndWritesNothing) {
       a.value = values;
       for (int p = 0; p < 4; ++p) a.planes[p] = imgs[3 + p]->roi();
       a.order[0] = 2, a.order[1] = 1, a.order[2] = 0;
-      if (e.planar >= 0) a.img[e.planar] = a.planes;
+      for (int i = 0; i < 3; ++i)
+        if (e.planar & (1 << i)) a.img[i] = a.planes;
       c.apply(a);
       std::vector<std::vector<std::uint8_t>> before;
       for (auto& im : imgs) before.push_back(im->snapshot());

@@ -121,7 +121,7 @@ def shim_texts(members):
 SWEEP_GOOD = {
     'roundMode': '1', 'axis': '0', 'hint': '1', 'vMin': '0.0f', 'vMax': '1.0f',
     'dstOrder': 'a.order', 'top': '1', 'left': '1', 'srcRoi': 'a.roi',
-    'dstRoi': 'PxlSize{a.roi.width + 2, a.roi.height + 2}',
+    'dstRoi': 'PxlSize{a.roi.width + 2, a.roi.height + 2}', 'alphaType': '0', 'alpha': '200',
 }
 
 
@@ -133,7 +133,7 @@ def sweep_text(members):
     for m in members:
         if not m.order:
             continue
-        args, nimg, nstep, value_ptr, planar = [], 0, 0, False, -1
+        args, nimg, nstep, value_ptr, planar = [], 0, 0, False, 0
         for t, n in m.args:
             if n in ('roi', 'length', 'scale'):
                 args.append('a.' + n)
@@ -150,7 +150,7 @@ def sweep_text(members):
                 nstep += 1
             elif t.endswith('*'):
                 if t.endswith('* const*'):
-                    planar = nimg
+                    planar |= 1 << nimg
                 args.append(f'({t})a.img[{nimg}]')
                 nimg += 1
             else:

@@ -64,8 +64,11 @@ class Family:
     """
 
     def __init__(self, prefix, stem, types, desc, impl, file, shape, layouts='',
-                 qual='', extra=(), doc='', order='', folds=''):
+                 qual='', extra=(), doc='', order='', folds='', value='value', scalar_value=False):
         self.prefix, self.stem, self.qual = prefix, stem, qual
+        # The constant's name, and whether it is one sample in every layout
+        # (an opacity) rather than one per channel.
+        self.value, self.scalar_value = value, scalar_value
         self.types = types.split()
         self.layouts = layouts.split()
         self.desc = desc.split() if prefix == 'pxli' else [d.strip() for d in desc.split(',')]
@@ -122,14 +125,17 @@ class Family:
     def _base_args(self, S, D, lay, inplace, channel_of_interest):
         img = self.prefix == 'pxli'
         if img:
-            by_value = lay == 'C1' or channel_of_interest
+            by_value = lay == 'C1' or channel_of_interest or self.scalar_value
             V = S if by_value else f'const {S}*'
         else:
             V = S
         roi = [('PxlSize', 'roi')] if img else [('int', 'length')]
-        # A planar side is an array of plane pointers sharing one step.
-        src_t = f'const {S}* const*' if lay.startswith('P') else f'const {S}*'
+        # A planar side is an array of plane pointers sharing one step; AP4
+        # is planar on both sides.
+        src_t = f'const {S}* const*' if lay.startswith('P') or lay == 'AP4' else f'const {S}*'
         dst_t = f'{D}* const*' if lay.endswith(('P3', 'P4')) else f'{D}*'
+        io_t = f'{D}* const*' if lay in ('P3', 'P4', 'AP4') else f'{D}*'
+        value = self.value
 
         def im(t, n):
             return [(t, n), ('int', n + 'Step')] if img else [(t, n)]
@@ -137,18 +143,18 @@ class Family:
         sh = self.shape
         if sh == 'binary':
             if inplace:
-                return im(src_t, 'src') + im(f'{D}*', 'srcDst') + roi
+                return im(src_t, 'src') + im(io_t, 'srcDst') + roi
             return im(src_t, 'src1') + im(src_t, 'src2') + im(dst_t, 'dst') + roi
         if sh == 'unary':
             if inplace:
-                return im(f'{D}*', 'srcDst') + roi
+                return im(io_t, 'srcDst') + roi
             return im(src_t, 'src') + im(dst_t, 'dst') + roi
         if sh == 'const':
             if inplace:
-                return [(V, 'value')] + im(f'{D}*', 'srcDst') + roi
-            return im(src_t, 'src') + [(V, 'value')] + im(dst_t, 'dst') + roi
+                return [(V, value)] + im(io_t, 'srcDst') + roi
+            return im(src_t, 'src') + [(V, value)] + im(dst_t, 'dst') + roi
         if sh == 'set':
-            return [(V, 'value')] + im(dst_t, 'dst') + roi
+            return [(V, value)] + im(dst_t, 'dst') + roi
         if sh == 'zero':
             return im(dst_t, 'dst') + roi
         if sh in ('border', 'constborder'):
