@@ -71,7 +71,8 @@ template <class T, Lay L>
 void transposeTile(const T* src, int srcStep, T* dst, int dstStep, int y0, int y1, int x0, int x1) {
   using P = Pixel<T, L>;
   constexpr int K = blockOf<P>();
-  const int yb = y0 + (y1 - y0) / K * K, xb = x0 + (x1 - x0) / K * K;
+  // Block-covered rows [y0, yb) and columns [x0, xb); none without blocks.
+  const int yb = K > 1 ? y0 + (y1 - y0) / K * K : y0, xb = K > 1 ? x0 + (x1 - x0) / K * K : x0;
   if constexpr (K > 1) {
     using B = Block<typename P::Unit>;
     typename B::V r[K];
@@ -99,7 +100,8 @@ template <class T, Lay L>
 void exchangeTile(T* img, int step, int y0, int y1, int x0, int x1) {
   using P = Pixel<T, L>;
   constexpr int K = blockOf<P>();
-  const int yb = y0 + (y1 - y0) / K * K, xb = x0 + (x1 - x0) / K * K;
+  // Block-covered rows [y0, yb) and columns [x0, xb); none without blocks.
+  const int yb = K > 1 ? y0 + (y1 - y0) / K * K : y0, xb = K > 1 ? x0 + (x1 - x0) / K * K : x0;
   auto px = [&](int y, int x) { return P::at(rowAt(img, step, y), x); };
   if constexpr (K > 1) {
     using B = Block<typename P::Unit>;
