@@ -107,5 +107,6 @@ void registerCases(const Case (&cases)[N]) {
 // Families and references; main calls each once.
 void registerArith();
 void registerBandwidth();
+void registerMoveBorder();
 
 }  // namespace pxlbench
