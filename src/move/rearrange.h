@@ -45,13 +45,9 @@ struct Pixel {
   static T* at(T* row, int x) { return row + std::ptrdiff_t(x) * kCh; }
   static const T* at(const T* row, int x) { return row + std::ptrdiff_t(x) * kCh; }
 
-  static void put(T* d, const T* s) {
-    if constexpr (kWhole) {
-      std::memcpy(d, s, kBytes);
-    } else {
-      for (int c = 0; c < kUsed; ++c) d[c] = s[c];
-    }
-  }
+  // Moved as bytes: a row start need not be aligned to the sample, since
+  // steps are counts of bytes that the caller may make odd.
+  static void put(T* d, const T* s) { std::memcpy(d, s, std::size_t(kUsed) * sizeof(T)); }
   static void swap(T* a, T* b) {
     T t[kCh];
     put(t, a);
