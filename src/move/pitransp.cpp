@@ -75,13 +75,20 @@ void transposeTile(const T* src, int srcStep, T* dst, int dstStep, int y0, int y
   const int yb = K > 1 ? y0 + (y1 - y0) / K * K : y0, xb = K > 1 ? x0 + (x1 - x0) / K * K : x0;
   if constexpr (K > 1) {
     using B = Block<typename P::Unit>;
+    // Blocks go in squares of one cache line's width, so that the lines a
+    // square reads and writes are all used up before it moves on; with
+    // steps of a power of two, the rows of a whole tile would fight over a
+    // few cache sets.
+    constexpr int M = std::max(K, 64 / int(sizeof(typename P::Unit)));
     typename B::V r[K];
-    for (int y = y0; y < yb; y += K)
-      for (int x = x0; x < xb; x += K) {
-        B::load(r, P::at(rowAt(src, srcStep, y), x), srcStep);
-        B::transpose(r);
-        B::store(P::at(rowAt(dst, dstStep, x), y), dstStep, r);
-      }
+    for (int my = y0; my < yb; my += M)
+      for (int mx = x0; mx < xb; mx += M)
+        for (int y = my; y < std::min(my + M, yb); y += K)
+          for (int x = mx; x < std::min(mx + M, xb); x += K) {
+            B::load(r, P::at(rowAt(src, srcStep, y), x), srcStep);
+            B::transpose(r);
+            B::store(P::at(rowAt(dst, dstStep, x), y), dstStep, r);
+          }
   }
   // What the blocks leave: the columns right of xb, then the rows below yb;
   // column by column of the source, each to one destination row.

@@ -104,6 +104,16 @@ struct Lanes {
     return V{U(K - 1 - int(I))...};
   }
   static V reverse(V v) {
+#if !defined(__SSSE3__)
+    // Without a byte shuffle instruction a byte permutation falls apart into
+    // scalar moves; reversing 16-bit lanes and then the bytes of each lane
+    // stays in registers.
+    if constexpr (sizeof(U) == 1) {
+      using W = typename Lanes<std::uint16_t>::V;
+      const W w = Lanes<std::uint16_t>::reverse(reinterpret_cast<W>(v));
+      return reinterpret_cast<V>(W((w << 8) | (w >> 8)));
+    }
+#endif
     constexpr V m = reverseMask(std::make_index_sequence<K>());
     return __builtin_shuffle(v, m);
   }
