@@ -108,5 +108,6 @@ void registerCases(const Case (&cases)[N]) {
 void registerArith();
 void registerMove();
 void registerBandwidth();
+void registerMoveBorder();
 
 }  // namespace pxlbench

@@ -491,6 +491,170 @@ PXL_API void PXL_CALL pxliFree(void* ptr);
 /* ---- pxliGetLibVersion: the static version record of this build */
 PXL_API const PxlLibVersion* PXL_CALL pxliGetLibVersion(void);
 
+/* ---- pxliCopyConstBorder: src placed at (top, left) of a dstRoi image, the rest filled with value */
+PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_8u_C1R(const Pxl8u* src, int srcStep, PxlSize srcRoi,
+    Pxl8u* dst, int dstStep, PxlSize dstRoi, int top, int left, Pxl8u value);
+PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_8u_C3R(const Pxl8u* src, int srcStep, PxlSize srcRoi,
+    Pxl8u* dst, int dstStep, PxlSize dstRoi, int top, int left, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_8u_C4R(const Pxl8u* src, int srcStep, PxlSize srcRoi,
+    Pxl8u* dst, int dstStep, PxlSize dstRoi, int top, int left, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_8u_AC4R(const Pxl8u* src, int srcStep,
+    PxlSize srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoi, int top, int left, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_16s_C1R(const Pxl16s* src, int srcStep,
+    PxlSize srcRoi, Pxl16s* dst, int dstStep, PxlSize dstRoi, int top, int left, Pxl16s value);
+PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_16s_C3R(const Pxl16s* src, int srcStep,
+    PxlSize srcRoi, Pxl16s* dst, int dstStep, PxlSize dstRoi, int top, int left,
+    const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_16s_C4R(const Pxl16s* src, int srcStep,
+    PxlSize srcRoi, Pxl16s* dst, int dstStep, PxlSize dstRoi, int top, int left,
+    const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_16s_AC4R(const Pxl16s* src, int srcStep,
+    PxlSize srcRoi, Pxl16s* dst, int dstStep, PxlSize dstRoi, int top, int left,
+    const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_32s_C1R(const Pxl32s* src, int srcStep,
+    PxlSize srcRoi, Pxl32s* dst, int dstStep, PxlSize dstRoi, int top, int left, Pxl32s value);
+PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_32s_C3R(const Pxl32s* src, int srcStep,
+    PxlSize srcRoi, Pxl32s* dst, int dstStep, PxlSize dstRoi, int top, int left,
+    const Pxl32s* value);
+PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_32s_C4R(const Pxl32s* src, int srcStep,
+    PxlSize srcRoi, Pxl32s* dst, int dstStep, PxlSize dstRoi, int top, int left,
+    const Pxl32s* value);
+PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_32s_AC4R(const Pxl32s* src, int srcStep,
+    PxlSize srcRoi, Pxl32s* dst, int dstStep, PxlSize dstRoi, int top, int left,
+    const Pxl32s* value);
+
+/* ---- pxliCopyReplicateBorder: src placed at (top, left), edges repeated outwards; in place: srcDst is the source's origin inside the larger image */
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_8u_C1R(const Pxl8u* src, int srcStep,
+    PxlSize srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_8u_C1IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_8u_C3R(const Pxl8u* src, int srcStep,
+    PxlSize srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_8u_C3IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_8u_C4R(const Pxl8u* src, int srcStep,
+    PxlSize srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_8u_C4IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_8u_AC4R(const Pxl8u* src, int srcStep,
+    PxlSize srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_8u_AC4IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_16s_C1R(const Pxl16s* src, int srcStep,
+    PxlSize srcRoi, Pxl16s* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_16s_C1IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_16s_C3R(const Pxl16s* src, int srcStep,
+    PxlSize srcRoi, Pxl16s* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_16s_C3IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_16s_C4R(const Pxl16s* src, int srcStep,
+    PxlSize srcRoi, Pxl16s* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_16s_C4IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_16s_AC4R(const Pxl16s* src, int srcStep,
+    PxlSize srcRoi, Pxl16s* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_16s_AC4IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_32s_C1R(const Pxl32s* src, int srcStep,
+    PxlSize srcRoi, Pxl32s* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_32s_C1IR(Pxl32s* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_32s_C3R(const Pxl32s* src, int srcStep,
+    PxlSize srcRoi, Pxl32s* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_32s_C3IR(Pxl32s* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_32s_C4R(const Pxl32s* src, int srcStep,
+    PxlSize srcRoi, Pxl32s* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_32s_C4IR(Pxl32s* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_32s_AC4R(const Pxl32s* src, int srcStep,
+    PxlSize srcRoi, Pxl32s* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyReplicateBorder_32s_AC4IR(Pxl32s* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+
+/* ---- pxliCopyWrapBorder: the periodic repeat of src, src at (top, left) */
+PXL_API PxlStatus PXL_CALL pxliCopyWrapBorder_32s_C1R(const Pxl32s* src, int srcStep,
+    PxlSize srcRoi, Pxl32s* dst, int dstStep, PxlSize dstRoi, int top, int left);
+PXL_API PxlStatus PXL_CALL pxliCopyWrapBorder_32s_C1IR(Pxl32s* srcDst, int srcDstStep,
+    PxlSize srcRoi, PxlSize dstRoi, int top, int left);
+
+/* ---- pxliMirror: axis 0 reverses the row order, 1 each row, 2 both */
+PXL_API PxlStatus PXL_CALL pxliMirror_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_16u_C1R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_16u_C1IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_16u_C3R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_16u_C3IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_16u_C4R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_16u_C4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_16u_AC4R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_16u_AC4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_32s_C1R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_32s_C1IR(Pxl32s* srcDst, int srcDstStep, PxlSize roi,
+    int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_32s_C3R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_32s_C3IR(Pxl32s* srcDst, int srcDstStep, PxlSize roi,
+    int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_32s_C4R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_32s_C4IR(Pxl32s* srcDst, int srcDstStep, PxlSize roi,
+    int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_32s_AC4R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi, int axis);
+PXL_API PxlStatus PXL_CALL pxliMirror_32s_AC4IR(Pxl32s* srcDst, int srcDstStep, PxlSize roi,
+    int axis);
+
+/* ---- pxliTranspose: dst is roi.height pixels wide and roi.width rows high; in place: square only */
+PXL_API PxlStatus PXL_CALL pxliTranspose_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_16u_C1R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_16u_C1IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_16u_C3R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_16u_C3IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_16u_C4R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_16u_C4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_32s_C1R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_32s_C1IR(Pxl32s* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_32s_C3R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_32s_C3IR(Pxl32s* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_32s_C4R(const Pxl32s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliTranspose_32s_C4IR(Pxl32s* srcDst, int srcDstStep, PxlSize roi);
+
 /* ---- pxliCopy: dst = src; AC4 leaves the alpha of dst */
 PXL_API PxlStatus PXL_CALL pxliCopy_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
     PxlSize roi);
