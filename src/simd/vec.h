@@ -7,6 +7,7 @@
 // so a kernel's block loop and its tail share one expression of the rule.
 #pragma once
 
+#include <cstdint>
 #include <cstring>
 #include <type_traits>
 
@@ -136,5 +137,71 @@ inline Reg<T> saturating(Reg<T> a, Reg<T> b) {
 }
 
 #undef PXL_SAT_OP
+
+}  // namespace pxl::simd
+
+// The same type with T lanes: T itself for a scalar, a vector of T with as
+// many lanes as V otherwise. Lets one lane expression change types on both.
+namespace pxl::simd {
+
+template <class V>
+inline constexpr int kLaneCount = int(sizeof(V) / sizeof(Elem<V>));
+
+template <class T, class V, bool = kIsVector<V>>
+struct RebindT {
+  using type = T;
+};
+template <class T, class V>
+struct RebindT<T, V, true> {
+  using type = Vec<T, kLaneCount<V>>;
+};
+template <class T, class V>
+using Rebind = typename RebindT<T, V>::type;
+
+// Float or double to 32-bit integer in the processor's current rounding
+// state (the SSE control register), on scalars and on vectors of any lane
+// count: the same instruction family for a block and for its tail, so both
+// round alike. The other narrowing conversions here truncate; these are the
+// only ones that follow the rounding state. Callers clamp to the int32 range
+// first.
+inline std::int32_t roundToInt32(float x) { return _mm_cvtss_si32(_mm_set_ss(x)); }
+inline std::int32_t roundToInt32(double x) { return _mm_cvtsd_si32(_mm_set_sd(x)); }
+
+namespace detail {
+// Applies one conversion instruction to consecutive chunks of In lanes.
+template <int In, class Chunk, class Out, class V, class F>
+inline Rebind<std::int32_t, V> roundChunks(const V& v, F&& cvt) {
+  Rebind<std::int32_t, V> out;
+  for (int i = 0; i < kLaneCount<V>; i += In) {
+    Chunk c;
+    std::memcpy(&c, reinterpret_cast<const Elem<V>*>(&v) + i, sizeof c);
+    const Out r = cvt(c);
+    std::memcpy(reinterpret_cast<std::int32_t*>(&out) + i, &r, In * sizeof(std::int32_t));
+  }
+  return out;
+}
+}  // namespace detail
+
+template <class V, std::enable_if_t<kIsVector<V>, int> = 0>
+inline Rebind<std::int32_t, V> roundToInt32(const V& v) {
+  constexpr int N = kLaneCount<V>;
+  if constexpr (std::is_same_v<Elem<V>, float>) {
+#if defined(__AVX2__)
+    if constexpr (N % 8 == 0)
+      return detail::roundChunks<8, __m256, __m256i>(v, [](__m256 c) { return _mm256_cvtps_epi32(c); });
+#endif
+    static_assert(N % 4 == 0, "whole SSE registers of floats");
+    return detail::roundChunks<4, __m128, __m128i>(v, [](__m128 c) { return _mm_cvtps_epi32(c); });
+  } else {
+    static_assert(std::is_same_v<Elem<V>, double>, "float or double lanes");
+#if defined(__AVX2__)
+    if constexpr (N % 4 == 0)
+      return detail::roundChunks<4, __m256d, __m128i>(v, [](__m256d c) { return _mm256_cvtpd_epi32(c); });
+#endif
+    static_assert(N % 2 == 0, "whole SSE registers of doubles");
+    // Two results in the low half of the register; only they are copied.
+    return detail::roundChunks<2, __m128d, __m128i>(v, [](__m128d c) { return _mm_cvtpd_epi32(c); });
+  }
+}
 
 }  // namespace pxl::simd
