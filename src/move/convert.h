@@ -31,9 +31,10 @@ using simd::splat;
 template <class T>
 inline constexpr bool kFloat = std::is_floating_point_v<T>;
 
+// x with its lanes as To; narrowing expects values that fit To.
 template <class To, class V>
 inline Rebind<To, V> to(const V& x) {
-  return simd::convert<Rebind<To, V>>(x);
+  return simd::resize<To>(x);
 }
 
 // Limited first from above, then from below. A NaN fails the first
