@@ -336,6 +336,7 @@ inline Rebind<To, V> resize(const V& v) {
   if constexpr (!kIsVector<V>) {
     return static_cast<To>(v);
   } else if constexpr (std::is_floating_point_v<From> || sizeof(From) == sizeof(To) || sizeof(From) == 8 ||
+                       (kBytes == 32 && sizeof(To) > sizeof(From)) ||  // AVX2 widens in one instruction
                        sizeof(To) == 8 || (std::is_floating_point_v<To> && sizeof(From) == 4) ||
                        (N * sizeof(From)) % 16 != 0 || (N * sizeof(To)) % 16 != 0) {
     return __builtin_convertvector(v, Rebind<To, V>);
