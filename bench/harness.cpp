@@ -70,7 +70,7 @@ Io libIo(const Case& c, Shape s) {
     io.src[i] = im.data;
     io.srcStep[i] = im.step;
   }
-  Image& d = imageFor(c.sample, s, Role::DstLib);
+  Image& d = imageFor(dstKindOf(c), s, Role::DstLib);
   io.dst = d.data;
   io.dstStep = d.step;
   io.roi = PxlSize{s.width, s.height};
@@ -84,8 +84,8 @@ CvIo cvIo(const Case& c, Shape s) {
     Image& im = imageFor(c.sample, s, i == 0 ? Role::Src0 : Role::Src1);
     (i == 0 ? m.a : m.b) = cv::Mat(s.height, s.width, type, im.data, std::size_t(im.step));
   }
-  Image& d = imageFor(c.sample, s, Role::DstCv);
-  m.d = cv::Mat(s.height, s.width, type, d.data, std::size_t(d.step));
+  Image& d = imageFor(dstKindOf(c), s, Role::DstCv);
+  m.d = cv::Mat(s.height, s.width, CV_MAKETYPE(dstKindOf(c).cvDepth, 1), d.data, std::size_t(d.step));
   return m;
 }
 
@@ -110,7 +110,7 @@ const char* sameOutput(const Case& c, Shape s) {
     } else if (m.d.data != cvData) {
       verdict = "OpenCV reallocated";
     } else {
-      const std::size_t rowBytes = std::size_t(s.width) * c.sample.bytes;
+      const std::size_t rowBytes = std::size_t(s.width) * dstKindOf(c).bytes;
       for (int y = 0; y < s.height && verdict[0] == 'y'; ++y)
         if (std::memcmp(static_cast<const Pxl8u*>(io.dst) + std::ptrdiff_t(io.dstStep) * y, m.d.ptr(y), rowBytes))
           verdict = "no";
@@ -195,7 +195,8 @@ void registerCases(const Case* cases, std::size_t count) {
   for (std::size_t i = 0; i < count; ++i) {
     const Case& c = cases[i];
     for (Shape s : kShapes) {
-      const std::int64_t bytes = std::int64_t(c.sources + 1) * s.width * s.height * c.sample.bytes;
+      const std::int64_t pixels = std::int64_t(s.width) * s.height;
+      const std::int64_t bytes = pixels * (c.sources * c.sample.bytes + dstKindOf(c).bytes);
       for (int threads : {1, allThreads()}) {
         benchmark::RegisterBenchmark(nameOf(c, s, threads, "lib").c_str(),
                                      [&c, s, threads, bytes](benchmark::State& st) { runLib(st, c, s, threads, bytes); })

@@ -67,7 +67,10 @@ struct Case {
   LibFn lib;
   CvFn cv;
   const char* cvDoes;  // what the OpenCV column computes, for the table's notes
+  SampleKind dstSample{0, -1};  // the destination's type where it differs (Convert)
 };
+
+inline SampleKind dstKindOf(const Case& c) { return c.dstSample.bytes != 0 ? c.dstSample : c.sample; }
 
 // Shorthands that keep a table row on one line. PXL_LIB and PXL_CV take any
 // call (the library's on io, OpenCV's on m.a, m.b, m.d); the others spell
@@ -109,5 +112,6 @@ void registerArith();
 void registerMove();
 void registerBandwidth();
 void registerMoveBorder();
+void registerMoveConvert();
 
 }  // namespace pxlbench

@@ -58,6 +58,7 @@ int main(int argc, char** argv) {
   pxlbench::registerArith();
   pxlbench::registerMove();
   pxlbench::registerMoveBorder();
+  pxlbench::registerMoveConvert();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

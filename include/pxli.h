@@ -655,6 +655,222 @@ PXL_API PxlStatus PXL_CALL pxliTranspose_32s_C4R(const Pxl32s* src, int srcStep,
     int dstStep, PxlSize roi);
 PXL_API PxlStatus PXL_CALL pxliTranspose_32s_C4IR(Pxl32s* srcDst, int srcDstStep, PxlSize roi);
 
+/* ---- pxliConvert: the value in the destination type, saturated */
+PXL_API PxlStatus PXL_CALL pxliConvert_8u16u_C1R(const Pxl8u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u16u_C3R(const Pxl8u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u16u_C4R(const Pxl8u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u16u_AC4R(const Pxl8u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16u8u_C1R(const Pxl16u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16u8u_C3R(const Pxl16u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16u8u_C4R(const Pxl16u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16u8u_AC4R(const Pxl16u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u16s_C1R(const Pxl8u* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u16s_C3R(const Pxl8u* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u16s_C4R(const Pxl8u* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u16s_AC4R(const Pxl8u* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16s8u_C1R(const Pxl16s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16s8u_C3R(const Pxl16s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16s8u_C4R(const Pxl16s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16s8u_AC4R(const Pxl16s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u32f_C1R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u32f_C3R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u32f_C4R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u32f_AC4R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16s32f_C1R(const Pxl16s* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16s32f_C3R(const Pxl16s* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16s32f_C4R(const Pxl16s* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16s32f_AC4R(const Pxl16s* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8s32f_C1R(const Pxl8s* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8s32f_C3R(const Pxl8s* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8s32f_C4R(const Pxl8s* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8s32f_AC4R(const Pxl8s* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16u32f_C1R(const Pxl16u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16u32f_C3R(const Pxl16u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16u32f_C4R(const Pxl16u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16u32f_AC4R(const Pxl16u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u32s_C1R(const Pxl8u* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u32s_C3R(const Pxl8u* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u32s_C4R(const Pxl8u* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u32s_AC4R(const Pxl8u* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_32s8u_C1R(const Pxl32s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_32s8u_C3R(const Pxl32s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_32s8u_C4R(const Pxl32s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_32s8u_AC4R(const Pxl32s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8s32s_C1R(const Pxl8s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8s32s_C3R(const Pxl8s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8s32s_C4R(const Pxl8s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8s32s_AC4R(const Pxl8s* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_32s8s_C1R(const Pxl32s* src, int srcStep, Pxl8s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_32s8s_C3R(const Pxl32s* src, int srcStep, Pxl8s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_32s8s_C4R(const Pxl32s* src, int srcStep, Pxl8s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_32s8s_AC4R(const Pxl32s* src, int srcStep, Pxl8s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16u32s_C1R(const Pxl16u* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16u32s_C3R(const Pxl16u* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16u32s_C4R(const Pxl16u* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_16u32s_AC4R(const Pxl16u* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+
+/* ---- pxliConvert: clamped to the destination, then rounded: pxlRndNear to nearest even, else truncated */
+PXL_API PxlStatus PXL_CALL pxliConvert_32f8u_C1R(const Pxl32f* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f8u_C3R(const Pxl32f* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f8u_C4R(const Pxl32f* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f8u_AC4R(const Pxl32f* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f16s_C1R(const Pxl32f* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f16s_C3R(const Pxl32f* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f16s_C4R(const Pxl32f* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f16s_AC4R(const Pxl32f* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f8s_C1R(const Pxl32f* src, int srcStep, Pxl8s* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f8s_C3R(const Pxl32f* src, int srcStep, Pxl8s* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f8s_C4R(const Pxl32f* src, int srcStep, Pxl8s* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f8s_AC4R(const Pxl32f* src, int srcStep, Pxl8s* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f16u_C1R(const Pxl32f* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f16u_C3R(const Pxl32f* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f16u_C4R(const Pxl32f* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, int roundMode);
+PXL_API PxlStatus PXL_CALL pxliConvert_32f16u_AC4R(const Pxl32f* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, int roundMode);
+
+/* ---- pxliConvert: one bit per pixel, most significant bit first: set bits are 255; bytes to bits by error diffusion */
+PXL_API PxlStatus PXL_CALL pxliConvert_1u8u_C1R(const Pxl8u* src, int srcStep, int srcBitOffset,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliConvert_8u1u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, int dstBitOffset, PxlSize roi, Pxl8u threshold);
+
+/* ---- pxliScale: the 8u range onto the whole destination range */
+PXL_API PxlStatus PXL_CALL pxliScale_8u16u_C1R(const Pxl8u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliScale_8u16u_C3R(const Pxl8u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliScale_8u16u_C4R(const Pxl8u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliScale_8u16u_AC4R(const Pxl8u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliScale_8u16s_C1R(const Pxl8u* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliScale_8u16s_C3R(const Pxl8u* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliScale_8u16s_C4R(const Pxl8u* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliScale_8u16s_AC4R(const Pxl8u* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliScale_8u32s_C1R(const Pxl8u* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliScale_8u32s_C3R(const Pxl8u* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliScale_8u32s_C4R(const Pxl8u* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliScale_8u32s_AC4R(const Pxl8u* src, int srcStep, Pxl32s* dst,
+    int dstStep, PxlSize roi);
+
+/* ---- pxliScale: the 8u range onto [vMin, vMax] and back; pxlStsScaleRange unless vMax > vMin */
+PXL_API PxlStatus PXL_CALL pxliScale_8u32f_C1R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f vMin, Pxl32f vMax);
+PXL_API PxlStatus PXL_CALL pxliScale_8u32f_C3R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f vMin, Pxl32f vMax);
+PXL_API PxlStatus PXL_CALL pxliScale_8u32f_C4R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f vMin, Pxl32f vMax);
+PXL_API PxlStatus PXL_CALL pxliScale_8u32f_AC4R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f vMin, Pxl32f vMax);
+PXL_API PxlStatus PXL_CALL pxliScale_32f8u_C1R(const Pxl32f* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32f vMin, Pxl32f vMax);
+PXL_API PxlStatus PXL_CALL pxliScale_32f8u_C3R(const Pxl32f* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32f vMin, Pxl32f vMax);
+PXL_API PxlStatus PXL_CALL pxliScale_32f8u_C4R(const Pxl32f* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32f vMin, Pxl32f vMax);
+PXL_API PxlStatus PXL_CALL pxliScale_32f8u_AC4R(const Pxl32f* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32f vMin, Pxl32f vMax);
+
+/* ---- pxliScale: the whole source range onto 8u: integer shifts, or x*a+b with pxlAlgHintAccurate */
+PXL_API PxlStatus PXL_CALL pxliScale_16u8u_C1R(const Pxl16u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int hint);
+PXL_API PxlStatus PXL_CALL pxliScale_16u8u_C3R(const Pxl16u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int hint);
+PXL_API PxlStatus PXL_CALL pxliScale_16u8u_C4R(const Pxl16u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int hint);
+PXL_API PxlStatus PXL_CALL pxliScale_16u8u_AC4R(const Pxl16u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int hint);
+PXL_API PxlStatus PXL_CALL pxliScale_16s8u_C1R(const Pxl16s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int hint);
+PXL_API PxlStatus PXL_CALL pxliScale_16s8u_C3R(const Pxl16s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int hint);
+PXL_API PxlStatus PXL_CALL pxliScale_16s8u_C4R(const Pxl16s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int hint);
+PXL_API PxlStatus PXL_CALL pxliScale_16s8u_AC4R(const Pxl16s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int hint);
+PXL_API PxlStatus PXL_CALL pxliScale_32s8u_C1R(const Pxl32s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int hint);
+PXL_API PxlStatus PXL_CALL pxliScale_32s8u_C3R(const Pxl32s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int hint);
+PXL_API PxlStatus PXL_CALL pxliScale_32s8u_C4R(const Pxl32s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int hint);
+PXL_API PxlStatus PXL_CALL pxliScale_32s8u_AC4R(const Pxl32s* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, int hint);
+
 /* ---- pxliCopy: dst = src; AC4 leaves the alpha of dst */
 PXL_API PxlStatus PXL_CALL pxliCopy_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
     PxlSize roi);

@@ -115,6 +115,21 @@ PXL_API Pxl64fc* PXL_CALL pxlsMalloc_64fc(int length);
 /* ---- pxlsFree: free a block of the allocators; NULL is ignored */
 PXL_API void PXL_CALL pxlsFree(void* ptr);
 
+/* ---- pxlsConvert: the value in the destination type */
+PXL_API PxlStatus PXL_CALL pxlsConvert_8u32f(const Pxl8u* src, Pxl32f* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsConvert_32s32f(const Pxl32s* src, Pxl32f* dst, int length);
+PXL_API PxlStatus PXL_CALL pxlsConvert_32s64f(const Pxl32s* src, Pxl64f* dst, int length);
+
+/* ---- pxlsConvert: times 2^-scale, clamped, rounded by roundMode */
+PXL_API PxlStatus PXL_CALL pxlsConvert_32f8u_Sfs(const Pxl32f* src, Pxl8u* dst, int length,
+    int roundMode, int scale);
+PXL_API PxlStatus PXL_CALL pxlsConvert_32f16s_Sfs(const Pxl32f* src, Pxl16s* dst, int length,
+    int roundMode, int scale);
+PXL_API PxlStatus PXL_CALL pxlsConvert_32f32s_Sfs(const Pxl32f* src, Pxl32s* dst, int length,
+    int roundMode, int scale);
+PXL_API PxlStatus PXL_CALL pxlsConvert_64f32s_Sfs(const Pxl64f* src, Pxl32s* dst, int length,
+    int roundMode, int scale);
+
 /* ---- pxlsCopy: dst = src; the ranges must not overlap */
 PXL_API PxlStatus PXL_CALL pxlsCopy_8u(const Pxl8u* src, Pxl8u* dst, int length);
 PXL_API PxlStatus PXL_CALL pxlsCopy_32f(const Pxl32f* src, Pxl32f* dst, int length);

@@ -7,6 +7,9 @@
 // so a kernel's block loop and its tail share one expression of the rule.
 #pragma once
 
+#include <immintrin.h>
+
+#include <cstdint>
 #include <cstring>
 #include <type_traits>
 
@@ -70,19 +73,77 @@ inline To convert(From v) {
   }
 }
 
+// A vector wider than one register, taken one register at a time: the
+// compiler lowers a comparison or a selection on such a vector to one
+// scalar operation per lane, but handles register-sized pieces well.
+template <class V>
+inline constexpr bool kMultiRegister = kIsVector<V> && (sizeof(V) > kBytes);
+
+template <class R, class... A, class F>
+inline R bySlices(F&& f, const A&... a) {
+  R out;
+  constexpr int slices = int(sizeof(R)) / kBytes;
+  for (int i = 0; i < slices; ++i) {
+    auto piece = [i](const auto& v) {
+      using E = std::remove_cv_t<std::remove_reference_t<decltype(v[0])>>;
+      Vec<E, kBytes / int(sizeof(E))> p;
+      std::memcpy(&p, reinterpret_cast<const char*>(&v) + i * int(sizeof(v)) / slices, sizeof p);
+      return p;
+    };
+    const auto r = f(piece(a)...);
+    std::memcpy(reinterpret_cast<char*>(&out) + i * kBytes, &r, sizeof r);
+  }
+  return out;
+}
+
 template <class V>
 inline V select(decltype(std::declval<V>() < std::declval<V>()) m, V a, V b) {
-  return m ? a : b;
+  if constexpr (kMultiRegister<V>) {
+    return bySlices<V>([](auto mm, auto x, auto y) { return mm ? x : y; }, m, a, b);
+  } else {
+    return m ? a : b;
+  }
+}
+
+// a < b ? a : b on one register. The float instructions compute exactly
+// that, also for a NaN in either operand (the second one is returned), but
+// the compiler does not find them from the expression without fast-math.
+template <bool Min, class P>
+inline P minMaxReg(P a, P b) {
+  using E = Elem<P>;
+  if constexpr (kIsVector<P> && sizeof(P) == 16 && std::is_same_v<E, float>) {
+    return (P)(Min ? _mm_min_ps((__m128)a, (__m128)b) : _mm_max_ps((__m128)a, (__m128)b));
+  } else if constexpr (kIsVector<P> && sizeof(P) == 16 && std::is_same_v<E, double>) {
+    return (P)(Min ? _mm_min_pd((__m128d)a, (__m128d)b) : _mm_max_pd((__m128d)a, (__m128d)b));
+#if defined(__AVX2__)
+  } else if constexpr (kIsVector<P> && sizeof(P) == 32 && std::is_same_v<E, float>) {
+    return (P)(Min ? _mm256_min_ps((__m256)a, (__m256)b) : _mm256_max_ps((__m256)a, (__m256)b));
+  } else if constexpr (kIsVector<P> && sizeof(P) == 32 && std::is_same_v<E, double>) {
+    return (P)(Min ? _mm256_min_pd((__m256d)a, (__m256d)b) : _mm256_max_pd((__m256d)a, (__m256d)b));
+#endif
+  } else if constexpr (Min) {
+    return a < b ? a : b;
+  } else {
+    return a > b ? a : b;
+  }
 }
 
 template <class V>
 inline V vmin(V a, V b) {
-  return a < b ? a : b;
+  if constexpr (kMultiRegister<V>) {
+    return bySlices<V>([](auto x, auto y) { return minMaxReg<true>(x, y); }, a, b);
+  } else {
+    return minMaxReg<true>(a, b);
+  }
 }
 
 template <class V>
 inline V vmax(V a, V b) {
-  return a > b ? a : b;
+  if constexpr (kMultiRegister<V>) {
+    return bySlices<V>([](auto x, auto y) { return minMaxReg<false>(x, y); }, a, b);
+  } else {
+    return minMaxReg<false>(a, b);
+  }
 }
 
 // Left shift that is defined for negative lanes: done on the unsigned twin.
@@ -167,5 +228,171 @@ inline void streamStore(void* p, V v) {
 }
 
 inline void storeFence() { _mm_sfence(); }
+
+}  // namespace pxl::simd
+
+// The same type with T lanes: T itself for a scalar, a vector of T with as
+// many lanes as V otherwise. Lets one lane expression change types on both.
+namespace pxl::simd {
+
+template <class V>
+inline constexpr int kLaneCount = int(sizeof(V) / sizeof(Elem<V>));
+
+template <class T, class V, bool = kIsVector<V>>
+struct RebindT {
+  using type = T;
+};
+template <class T, class V>
+struct RebindT<T, V, true> {
+  using type = Vec<T, kLaneCount<V>>;
+};
+template <class T, class V>
+using Rebind = typename RebindT<T, V>::type;
+
+// Float or double to 32-bit integer in the processor's current rounding
+// state (the SSE control register), on scalars and on vectors of any lane
+// count: the same instruction family for a block and for its tail, so both
+// round alike. The other narrowing conversions here truncate; these are the
+// only ones that follow the rounding state. Callers clamp to the int32 range
+// first.
+inline std::int32_t roundToInt32(float x) { return _mm_cvtss_si32(_mm_set_ss(x)); }
+inline std::int32_t roundToInt32(double x) { return _mm_cvtsd_si32(_mm_set_sd(x)); }
+
+namespace detail {
+// Applies one conversion instruction to consecutive chunks of In lanes.
+template <int In, class Chunk, class Out, class V, class F>
+inline Rebind<std::int32_t, V> roundChunks(const V& v, F&& cvt) {
+  Rebind<std::int32_t, V> out;
+  for (int i = 0; i < kLaneCount<V>; i += In) {
+    Chunk c;
+    std::memcpy(&c, reinterpret_cast<const Elem<V>*>(&v) + i, sizeof c);
+    const Out r = cvt(c);
+    std::memcpy(reinterpret_cast<std::int32_t*>(&out) + i, &r, In * sizeof(std::int32_t));
+  }
+  return out;
+}
+}  // namespace detail
+
+template <class V, std::enable_if_t<kIsVector<V>, int> = 0>
+inline Rebind<std::int32_t, V> roundToInt32(const V& v) {
+  constexpr int N = kLaneCount<V>;
+  if constexpr (std::is_same_v<Elem<V>, float>) {
+#if defined(__AVX2__)
+    if constexpr (N % 8 == 0)
+      return detail::roundChunks<8, __m256, __m256i>(v, [](__m256 c) { return _mm256_cvtps_epi32(c); });
+#endif
+    static_assert(N % 4 == 0, "whole SSE registers of floats");
+    return detail::roundChunks<4, __m128, __m128i>(v, [](__m128 c) { return _mm_cvtps_epi32(c); });
+  } else {
+    static_assert(std::is_same_v<Elem<V>, double>, "float or double lanes");
+#if defined(__AVX2__)
+    if constexpr (N % 4 == 0)
+      return detail::roundChunks<4, __m256d, __m128i>(v, [](__m256d c) { return _mm256_cvtpd_epi32(c); });
+#endif
+    static_assert(N % 2 == 0, "whole SSE registers of doubles");
+    // Two results in the low half of the register; only they are copied.
+    return detail::roundChunks<2, __m128d, __m128i>(v, [](__m128d c) { return _mm_cvtpd_epi32(c); });
+  }
+}
+
+}  // namespace pxl::simd
+
+// Lane type changes between integer widths on whole 128-bit registers. The
+// compiler's own vector conversion turns a widening or narrowing of more
+// lanes than one register holds into one scalar conversion per lane on the
+// baseline level; these do each step with one unpack or pack instruction.
+// Narrowing assumes values that fit the destination (callers clamp first),
+// so the saturating packs give exactly the truncated value.
+namespace pxl::simd {
+namespace detail {
+
+template <class T>
+inline __m128i chunkAt(const T& v, int byteOffset) {
+  __m128i c;
+  std::memcpy(&c, reinterpret_cast<const char*>(&v) + byteOffset, sizeof c);
+  return c;
+}
+template <class T>
+inline void putChunk(T& v, int byteOffset, __m128i c) {
+  std::memcpy(reinterpret_cast<char*>(&v) + byteOffset, &c, sizeof c);
+}
+
+// One step of doubling the lane width; the sign of From decides the fill.
+template <class From>
+inline void widenChunk(__m128i x, __m128i& lo, __m128i& hi) {
+  if constexpr (std::is_unsigned_v<From>) {
+    const __m128i z = _mm_setzero_si128();
+    if constexpr (sizeof(From) == 1) lo = _mm_unpacklo_epi8(x, z), hi = _mm_unpackhi_epi8(x, z);
+    else lo = _mm_unpacklo_epi16(x, z), hi = _mm_unpackhi_epi16(x, z);
+  } else if constexpr (sizeof(From) == 1) {
+    lo = _mm_srai_epi16(_mm_unpacklo_epi8(x, x), 8), hi = _mm_srai_epi16(_mm_unpackhi_epi8(x, x), 8);
+  } else {
+    lo = _mm_srai_epi32(_mm_unpacklo_epi16(x, x), 16), hi = _mm_srai_epi32(_mm_unpackhi_epi16(x, x), 16);
+  }
+}
+
+// One step of halving the lane width, for values that fit To.
+template <class To>
+inline __m128i narrowChunk(__m128i lo, __m128i hi) {
+  if constexpr (sizeof(To) == 1) {
+    return std::is_unsigned_v<To> ? _mm_packus_epi16(lo, hi) : _mm_packs_epi16(lo, hi);
+  } else if constexpr (std::is_unsigned_v<To>) {
+    // 0..65535 through the signed pack: shift to the signed range and back.
+    const __m128i bias = _mm_set1_epi32(32768);
+    return _mm_xor_si128(_mm_packs_epi32(_mm_sub_epi32(lo, bias), _mm_sub_epi32(hi, bias)), _mm_set1_epi16(-32768));
+  } else {
+    return _mm_packs_epi32(lo, hi);
+  }
+}
+
+// The integer type twice as wide: signed, unless the final type is unsigned.
+template <class From, class To>
+using Doubled = std::conditional_t<
+    sizeof(From) == 1, std::conditional_t<std::is_unsigned_v<To>, std::uint16_t, std::int16_t>,
+    std::conditional_t<std::is_unsigned_v<To>, std::uint32_t, std::int32_t>>;
+template <class From, class To>
+using Halved = std::conditional_t<sizeof(From) == 4,
+                                  std::conditional_t<(sizeof(To) == 1 || std::is_signed_v<To>), std::int16_t, std::uint16_t>,
+                                  To>;
+
+}  // namespace detail
+
+// v with its lanes as To: exact for widening, and for narrowing of values
+// that fit To. Lane counts of whole registers take the unpack and pack
+// steps; anything else is the compiler's conversion.
+template <class To, class V>
+inline Rebind<To, V> resize(const V& v) {
+  using From = Elem<V>;
+  constexpr int N = kLaneCount<V>;
+  if constexpr (!kIsVector<V>) {
+    return static_cast<To>(v);
+  } else if constexpr (std::is_floating_point_v<From> || sizeof(From) == sizeof(To) || sizeof(From) == 8 ||
+                       (kBytes == 32 && sizeof(To) > sizeof(From)) ||  // AVX2 widens in one instruction
+                       sizeof(To) == 8 || (std::is_floating_point_v<To> && sizeof(From) == 4) ||
+                       (N * sizeof(From)) % 16 != 0 || (N * sizeof(To)) % 16 != 0) {
+    return __builtin_convertvector(v, Rebind<To, V>);
+  } else if constexpr (std::is_floating_point_v<To>) {
+    return resize<To>(resize<std::int32_t>(v));  // exact integers, then one same-width conversion
+  } else if constexpr (sizeof(To) > sizeof(From)) {
+    using M = detail::Doubled<From, To>;
+    Rebind<M, V> out;
+    for (int i = 0; i < N; i += 16 / int(sizeof(From))) {
+      __m128i lo, hi;
+      detail::widenChunk<From>(detail::chunkAt(v, i * int(sizeof(From))), lo, hi);
+      detail::putChunk(out, i * int(sizeof(M)), lo);
+      detail::putChunk(out, i * int(sizeof(M)) + 16, hi);
+    }
+    return resize<To>(out);
+  } else {
+    using M = detail::Halved<From, To>;
+    Rebind<M, V> out;
+    for (int i = 0; i < N; i += 32 / int(sizeof(From))) {
+      const __m128i lo = detail::chunkAt(v, i * int(sizeof(From)));
+      const __m128i hi = detail::chunkAt(v, i * int(sizeof(From)) + 16);
+      detail::putChunk(out, i * int(sizeof(M)), detail::narrowChunk<M>(lo, hi));
+    }
+    return resize<To>(out);
+  }
+}
 
 }  // namespace pxl::simd
