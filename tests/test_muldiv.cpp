@@ -285,7 +285,10 @@ void fillSamples(TestImage& im, const Member& m, std::mt19937& rng, bool noZero)
       std::uint8_t* p = im.row(y) + i * m.t.partBytes;
       const unsigned k = rng() % 10;
       if (m.t.isFloat) {
-        double v = std::ldexp(double(int(rng() % 2001) - 1000), int(rng() % 20) - 10);
+        // Short mantissas (exact products, ties) and full ones (last-bit
+        // differences of the reciprocal estimate).
+        double v = k < 5 ? std::ldexp(double(int(rng() % 2001) - 1000), int(rng() % 20) - 10)
+                         : (double(rng()) / 4294967296.0 + 0.5) * std::ldexp(rng() % 2 ? 1.0 : -1.0, int(rng() % 20) - 10);
         if (k == 0 && !noZero) v = 0;
         if (v == 0 && noZero) v = 3;
         if (m.t.partBytes == 4) { const float f = float(v); std::memcpy(p, &f, 4); }
