@@ -106,6 +106,7 @@ void registerCases(const Case (&cases)[N]) {
 
 // Families and references; main calls each once.
 void registerArith();
+void registerArithMulDiv();
 void registerBandwidth();
 
 }  // namespace pxlbench

@@ -56,6 +56,7 @@ int main(int argc, char** argv) {
 
   pxlbench::registerBandwidth();
   pxlbench::registerArith();
+  pxlbench::registerArithMulDiv();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
