@@ -125,13 +125,15 @@ inline std::enable_if_t<kComplex<T> && std::is_integral_v<PartOf<T>>, T> divSamp
 template <class T>
 inline std::enable_if_t<kComplex<T> && std::is_floating_point_v<PartOf<T>>, T> divSample(T n, T d, int, bool& zero) {
   using R = PartOf<T>;
-  const double t = double(d.re) * d.re + double(d.im) * d.im;
+  const double dr = d.re, di = d.im, nr = n.re, ni = n.im;
+  const double t = roundedProduct(dr, dr) + roundedProduct(di, di);
   if (!(t > 0)) {
     zero = true;
     return T{R(pxlConstantOfNAN_64f), R(pxlConstantOfNAN_64f)};
   }
   const double inv = 1.0 / t;
-  return T{R((double(n.re) * d.re + double(n.im) * d.im) * inv), R((double(n.im) * d.re - double(n.re) * d.im) * inv)};
+  return T{R((roundedProduct(nr, dr) + roundedProduct(ni, di)) * inv),
+           R((roundedProduct(ni, dr) - roundedProduct(nr, di)) * inv)};
 }
 
 // ------------------------------------------------------------ 32f
@@ -357,7 +359,7 @@ inline void divC8uRow(const Pxl8u* src, float m, Pxl8u* dst, int len) {
 template <class T>
 inline bool isZero(const T& v) {
   if constexpr (kComplex<T> && std::is_floating_point_v<PartOf<T>>)
-    return v.re * v.re + v.im * v.im == 0;
+    return roundedProduct(v.re, v.re) + roundedProduct(v.im, v.im) == 0;
   else if constexpr (kComplex<T>)
     return v.re == 0 && v.im == 0;
   else
@@ -443,7 +445,7 @@ PxlStatus divCMember(const T* src, int srcStep, const T* values, T* dst, int dSt
       T inv[4];
       for (int c = 0; c < used; ++c) {
         if constexpr (kComplex<T>) {
-          const R t = values[c].re * values[c].re + values[c].im * values[c].im;
+          const R t = roundedProduct(values[c].re, values[c].re) + roundedProduct(values[c].im, values[c].im);
           inv[c] = T{values[c].re / t, -values[c].im / t};
         } else {
           inv[c] = R(1) / values[c];
@@ -488,7 +490,7 @@ PxlStatus vectorDivC(const T* src, T value, T* dst, int length, int scale = 0) {
   if constexpr (std::is_same_v<T, Pxl32fc>) {
     // t = |value|^2 in single precision; then a product with (re/t, -im/t).
     if (isZero(value)) return pxlStsDivByZeroConst;
-    const float t = value.re * value.re + value.im * value.im;
+    const float t = roundedProduct(value.re, value.re) + roundedProduct(value.im, value.im);
     return vectorConst<OpMul, T>(src, T{value.re / t, -value.im / t}, dst, length);
   } else {
     if (isZero(value)) return pxlStsDivByZeroConst;

@@ -69,6 +69,11 @@ struct OpMul {
   static T complexLane(T a, T b, int s) {
     using R = PartOf<T>;
     using W = typename ComplexLane<T>::type;
+    if constexpr (std::is_floating_point_v<R>) {
+      const R re = roundedProduct(a.re, b.re) - roundedProduct(a.im, b.im);
+      const R im = roundedProduct(a.re, b.im) + roundedProduct(a.im, b.re);
+      return T{re, im};
+    }
     const W re = W(a.re) * W(b.re) - W(a.im) * W(b.im);
     const W im = W(a.re) * W(b.im) + W(a.im) * W(b.re);
     return T{static_cast<R>(applyRule<OpMul, P, R>(re, s)), static_cast<R>(applyRule<OpMul, P, R>(im, s))};

@@ -106,6 +106,17 @@ inline W scaleRule(W x, int s) {
   }
 }
 
+// A float product that the compiler may not fuse with the sum it feeds.
+// -ffp-contract=off keeps plain expressions apart, but GCC's recognition of
+// complex multiplication in the vectoriser still forms fused multiply-adds
+// on AVX2; an opaque register stops it, so every level rounds each product.
+template <class F>
+inline F roundedProduct(F a, F b) {
+  F p = a * b;
+  __asm__("" : "+x"(p));
+  return p;
+}
+
 template <Path P>
 using PathC = std::integral_constant<Path, P>;
 
