@@ -110,6 +110,7 @@ void registerCases(const Case (&cases)[N]) {
 // Families and references; main calls each once.
 void registerArith();
 void registerMove();
+void registerArithMulDiv();
 void registerBandwidth();
 void registerMoveBorder();
 void registerMoveConvert();

@@ -59,6 +59,7 @@ int main(int argc, char** argv) {
   pxlbench::registerMove();
   pxlbench::registerMoveBorder();
   pxlbench::registerMoveConvert();
+  pxlbench::registerArithMulDiv();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

@@ -98,6 +98,86 @@ PXL_API PxlStatus PXL_CALL pxlsSubC_32fc(const Pxl32fc* src, Pxl32fc value, Pxl3
     int length);
 PXL_API PxlStatus PXL_CALL pxlsSubC_32fc_I(Pxl32fc value, Pxl32fc* srcDst, int length);
 
+/* ---- pxlsMul: complex src1 * src2, scaled per part */
+PXL_API PxlStatus PXL_CALL pxlsMul_16sc_Sfs(const Pxl16sc* src1, const Pxl16sc* src2, Pxl16sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsMul_16sc_ISfs(const Pxl16sc* src, Pxl16sc* srcDst, int length,
+    int scale);
+PXL_API PxlStatus PXL_CALL pxlsMul_32sc_Sfs(const Pxl32sc* src1, const Pxl32sc* src2, Pxl32sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsMul_32sc_ISfs(const Pxl32sc* src, Pxl32sc* srcDst, int length,
+    int scale);
+
+/* ---- pxlsMul */
+PXL_API PxlStatus PXL_CALL pxlsMul_32fc(const Pxl32fc* src1, const Pxl32fc* src2, Pxl32fc* dst,
+    int length);
+PXL_API PxlStatus PXL_CALL pxlsMul_32fc_I(const Pxl32fc* src, Pxl32fc* srcDst, int length);
+
+/* ---- pxlsMul */
+PXL_API PxlStatus PXL_CALL pxlsMul_64fc_I(const Pxl64fc* src, Pxl64fc* srcDst, int length);
+
+/* ---- pxlsMulC: src * value, scaled per part */
+PXL_API PxlStatus PXL_CALL pxlsMulC_16sc_Sfs(const Pxl16sc* src, Pxl16sc value, Pxl16sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsMulC_16sc_ISfs(Pxl16sc value, Pxl16sc* srcDst, int length,
+    int scale);
+PXL_API PxlStatus PXL_CALL pxlsMulC_32sc_Sfs(const Pxl32sc* src, Pxl32sc value, Pxl32sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsMulC_32sc_ISfs(Pxl32sc value, Pxl32sc* srcDst, int length,
+    int scale);
+
+/* ---- pxlsMulC */
+PXL_API PxlStatus PXL_CALL pxlsMulC_32f_I(Pxl32f value, Pxl32f* srcDst, int length);
+
+/* ---- pxlsMulC */
+PXL_API PxlStatus PXL_CALL pxlsMulC_32fc(const Pxl32fc* src, Pxl32fc value, Pxl32fc* dst,
+    int length);
+PXL_API PxlStatus PXL_CALL pxlsMulC_32fc_I(Pxl32fc value, Pxl32fc* srcDst, int length);
+
+/* ---- pxlsMulC */
+PXL_API PxlStatus PXL_CALL pxlsMulC_64fc_I(Pxl64fc value, Pxl64fc* srcDst, int length);
+
+/* ---- pxlsDiv: src2 / src1; a zero divisor gives defined values and pxlStsDivByZero */
+PXL_API PxlStatus PXL_CALL pxlsDiv_8u_Sfs(const Pxl8u* src1, const Pxl8u* src2, Pxl8u* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsDiv_16s_Sfs(const Pxl16s* src1, const Pxl16s* src2, Pxl16s* dst,
+    int length, int scale);
+
+/* ---- pxlsDiv */
+PXL_API PxlStatus PXL_CALL pxlsDiv_16sc_Sfs(const Pxl16sc* src1, const Pxl16sc* src2, Pxl16sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsDiv_16sc_ISfs(const Pxl16sc* src, Pxl16sc* srcDst, int length,
+    int scale);
+
+/* ---- pxlsDiv */
+PXL_API PxlStatus PXL_CALL pxlsDiv_32f(const Pxl32f* src1, const Pxl32f* src2, Pxl32f* dst,
+    int length);
+
+/* ---- pxlsDiv */
+PXL_API PxlStatus PXL_CALL pxlsDiv_32fc(const Pxl32fc* src1, const Pxl32fc* src2, Pxl32fc* dst,
+    int length);
+PXL_API PxlStatus PXL_CALL pxlsDiv_32fc_I(const Pxl32fc* src, Pxl32fc* srcDst, int length);
+PXL_API PxlStatus PXL_CALL pxlsDiv_64fc(const Pxl64fc* src1, const Pxl64fc* src2, Pxl64fc* dst,
+    int length);
+PXL_API PxlStatus PXL_CALL pxlsDiv_64fc_I(const Pxl64fc* src, Pxl64fc* srcDst, int length);
+
+/* ---- pxlsDivC: src / value; a zero constant gives pxlStsDivByZeroConst */
+PXL_API PxlStatus PXL_CALL pxlsDivC_8u_Sfs(const Pxl8u* src, Pxl8u value, Pxl8u* dst, int length,
+    int scale);
+PXL_API PxlStatus PXL_CALL pxlsDivC_16s_Sfs(const Pxl16s* src, Pxl16s value, Pxl16s* dst,
+    int length, int scale);
+
+/* ---- pxlsDivC */
+PXL_API PxlStatus PXL_CALL pxlsDivC_16sc_Sfs(const Pxl16sc* src, Pxl16sc value, Pxl16sc* dst,
+    int length, int scale);
+PXL_API PxlStatus PXL_CALL pxlsDivC_16sc_ISfs(Pxl16sc value, Pxl16sc* srcDst, int length,
+    int scale);
+
+/* ---- pxlsDivC */
+PXL_API PxlStatus PXL_CALL pxlsDivC_32fc(const Pxl32fc* src, Pxl32fc value, Pxl32fc* dst,
+    int length);
+PXL_API PxlStatus PXL_CALL pxlsDivC_32fc_I(Pxl32fc value, Pxl32fc* srcDst, int length);
+
 /* ---- pxlsMalloc: 32-byte aligned vector of length elements, or NULL */
 PXL_API Pxl8u* PXL_CALL pxlsMalloc_8u(int length);
 PXL_API Pxl8s* PXL_CALL pxlsMalloc_8s(int length);

@@ -1,20 +1,55 @@
-// Add, Sub, AddC, SubC: one frame for all 50 members of each family and for
-// the vector forms. The operation is a type (OpAdd, OpSub); the member's
-// type and layout are template arguments; everything else follows from them.
+// Add, Sub, AddC, SubC: the two operations of the pair. Every member and
+// vector form runs the frame of scaled.h with one of them.
 #pragma once
 
-#include <algorithm>
-
-#include "arith/scale.h"
-#include "frame/frame.h"
-#include "frame/rowdriver.h"
-#include "move/copy.h"
-#include "move/set.h"
+#include "arith/scaled.h"
 
 namespace pxl::arith {
 
-struct OpAdd {
+// What Add and Sub share: a sum or difference fits a lane one bit wider than
+// its operands, path Zero is a saturating instruction, complex parts are
+// independent, and the constant shortcuts of AddC and SubC.
+template <class Derived>
+struct AddSubBase {
+  template <class R, Path P>
+  using Wide = WideOf<R>;
+  static constexpr bool kClampBeforeShift = false;
+  static constexpr bool kSaturatingZero = true;
+  static constexpr bool kPartwise = true;
+  static constexpr int kIdentity = 0;
+
+  // Where a scale stops depending on the data, per type: 255 + 255 over 2^9
+  // still rounds to 1 while 255 over 2^8 is the largest difference.
+  template <class T>
+  static constexpr ScaleLimits limits() {
+    using R = PartOf<T>;
+    constexpr bool sub = Derived::kSub;
+    if constexpr (std::is_same_v<R, Pxl8u>) return {sub ? 8 : 9, -7};
+    else if constexpr (std::is_same_v<R, Pxl16u>) return {sub ? 16 : 17, -15};
+    else if constexpr (std::is_same_v<R, Pxl16s>) return {16, -15};
+    else return {32, -30};  // 32s
+  }
+
+  // A zero constant at scale 0 is a copy, or nothing at all in place. AddC
+  // on 8u far below the limit with a positive constant is 255 everywhere.
+  template <class T>
+  static Shortcut<T> c1Shortcut(T value, int scale, Path path) {
+    if (scale == 0 && value == 0) return {Shortcut<T>::Copy};
+    if constexpr (std::is_same_v<T, Pxl8u> && !Derived::kSub)
+      if (path == Path::Bound && value > 0) return {Shortcut<T>::Fill, T(255)};
+    return {};
+  }
+  // AddC on 16u far below the limit with a non-zero constant: 65535.
+  template <class T>
+  static Shortcut<T> early16u(T value, Path path) {
+    if (!Derived::kSub && path == Path::Bound && value != 0) return {Shortcut<T>::Fill, T(65535)};
+    return {};
+  }
+};
+
+struct OpAdd : AddSubBase<OpAdd> {
   static constexpr bool kSub = false;
+  static constexpr bool kHalvedSumAtOne = true;
   static constexpr Fam kFam = Fam::Add;
   static constexpr Fam kFamC = Fam::AddC;
   template <class W>
@@ -29,7 +64,7 @@ struct OpAdd {
 
 // b - a: Sub takes src2 - src1 (in place srcDst - src) and SubC src - value.
 // An unsigned difference is clamped at zero before any scaling.
-struct OpSub {
+struct OpSub : AddSubBase<OpSub> {
   static constexpr bool kSub = true;
   static constexpr Fam kFam = Fam::Sub;
   static constexpr Fam kFamC = Fam::SubC;
@@ -46,272 +81,5 @@ struct OpSub {
     return simd::saturating<true, Elem<V>>(b, a);
   }
 };
-
-// Where a scale stops depending on the data, per type: 255 + 255 over 2^9
-// still rounds to 1 while 255 over 2^8 is the largest difference.
-template <class Op, class R>
-constexpr ScaleLimits addSubLimits() {
-  if constexpr (std::is_same_v<R, Pxl8u>) return {Op::kSub ? 8 : 9, -7};
-  else if constexpr (std::is_same_v<R, Pxl16u>) return {Op::kSub ? 16 : 17, -15};
-  else if constexpr (std::is_same_v<R, Pxl16s>) return {16, -15};
-  else return {32, -30};  // 32s
-}
-
-template <class Op, class T>
-inline Path addSubPath(int scale) {
-  if constexpr (std::is_floating_point_v<PartOf<T>>) {
-    (void)scale;
-    return Path::Single;
-  } else {
-    return pathOf(scale, addSubLimits<Op, PartOf<T>>());
-  }
-}
-
-// Complex members also refuse steps below 1; the others never look at steps.
-template <class T>
-inline constexpr Order kAddSubOrder = kComplex<T> ? Order::NST : Order::NS;
-
-template <class T>
-inline constexpr bool kIs16u = std::is_same_v<T, Pxl16u>;
-
-template <class T, Lay L>
-using ValueArg = std::conditional_t<L == Lay::C1, T, const T*>;
-
-template <class T, Lay L>
-inline PxlStatus fillZero(T* dst, int dstStep, PxlSize roi) {
-  return move::setImageUniform<T, L>(T{}, dst, dstStep, roi);
-}
-
-template <class R>
-inline bool overlapsElsewhere(const R* d, const R* s, std::size_t len) {
-  return d != s && d < s + len && s < d + len;
-}
-
-// The shape a serial walk takes: gapless images with no destination
-// overlapping a source elsewhere are one long row.
-template <Lay L, class T>
-inline PxlSize serialShape(const T* a, int aStep, const T* b, int bStep, const T* d, int dStep, PxlSize roi) {
-  const std::size_t rowBytes = std::size_t(roi.width) * channelsOf(L) * sizeof(T);
-  const PxlSize one = gaplessShape(roi, rowBytes, aStep, bStep, dStep);
-  if (one.height != 1 || roi.height == 1) return roi;
-  const std::size_t all = rowBytes * std::size_t(roi.height);
-  const auto* ad = reinterpret_cast<const char*>(d);
-  const auto* aa = reinterpret_cast<const char*>(a);
-  const auto* ab = reinterpret_cast<const char*>(b);
-  return overlapsElsewhere(ad, aa, all) || overlapsElsewhere(ad, ab, all) ? roi : one;
-}
-
-// ------------------------------------------------------------ two images
-
-template <class Op, class T, Lay L>
-PxlStatus binaryMember(const T* a, int aStep, const T* b, int bStep, T* d, int dStep, PxlSize roi, int scale,
-                       bool inPlace) {
-  using R = PartOf<T>;
-  constexpr int parts = Sample<T>::parts;
-
-  if constexpr (L == Lay::C3 || L == Lay::C4) {
-    return foldToC1(roi, channelsOf(L), [&](PxlSize r) {
-      return binaryMember<Op, T, Lay::C1>(a, aStep, b, bStep, d, dStep, r, scale, inPlace);
-    });
-  } else {
-    const Path path = addSubPath<Op, T>(scale);
-    if constexpr (kIs16u<T> && L == Lay::C1) {
-      // 16u looks at the scale before the pointers: past the limit, Set does
-      // the remaining checks.
-      if (path == Path::Above) {
-        if (!inPlace && anyNull(a, b)) return pxlStsNullPtr;
-        return fillZero<T, L>(d, dStep, roi);
-      }
-    }
-    if (anyNull(a, b, d)) return pxlStsNullPtr;
-    if (PxlStatus st = checkShape<kAddSubOrder<T>>(roi, aStep, bStep, dStep)) return st;
-    if (path == Path::Above) return fillZero<T, L>(d, dStep, roi);
-
-    const GateKey key{Op::kFam, typeTagOf<T>(), L, inPlace};
-    withPath<R>(path, [&](auto pc) {
-      constexpr Path P = decltype(pc)::value;
-      const bool region = regionOpens(key, bitOf(P), roi) && mayFork();
-      const PxlSize walk = region ? roi : serialShape<L>(a, aStep, b, bStep, d, dStep, roi);
-      auto row = [&](int y) {
-        const R* ra = reinterpret_cast<const R*>(rowAt(a, aStep, y));
-        const R* rb = reinterpret_cast<const R*>(rowAt(b, bStep, y));
-        R* rd = reinterpret_cast<R*>(rowAt(d, dStep, y));
-        if constexpr (L == Lay::AC4) {
-          rowBinaryAC4<Op, P, R, parts>(ra, rb, rd, walk.width, scale);
-        } else {
-          const int len = walk.width * parts;
-          if (kIs16u<T> && (overlapsElsewhere(rd, ra, len) || overlapsElsewhere(rd, rb, len)))
-            rowBinaryOrdered<Op, P>(ra, rb, rd, len, scale);
-          else
-            rowBinary<Op, P>(ra, rb, rd, len, scale);
-        }
-      };
-      rowsShapeA(walk.height, region, row);
-    });
-    return pxlStsOk;
-  }
-}
-
-template <class Op, class T, Lay L>
-PxlStatus imageBinary(const T* src1, int src1Step, const T* src2, int src2Step, T* dst, int dstStep, PxlSize roi,
-                      int scale = 0) {
-  return binaryMember<Op, T, L>(src1, src1Step, src2, src2Step, dst, dstStep, roi, scale, false);
-}
-
-template <class Op, class T, Lay L>
-PxlStatus imageBinary(const T* src, int srcStep, T* srcDst, int srcDstStep, PxlSize roi, int scale = 0) {
-  return binaryMember<Op, T, L>(src, srcStep, srcDst, srcDstStep, srcDst, srcDstStep, roi, scale, true);
-}
-
-// ------------------------------------------------------------ constant
-
-// Runs the rows of a constant member on a pattern of Period values.
-template <class Op, class T, Lay L, int Period>
-void constRows(const T* src, int srcStep, const PartOf<T>* values, T* dst, int dstStep, PxlSize roi, int scale,
-               Path path, const GateKey& key) {
-  using R = PartOf<T>;
-  const Pattern<R, Period> pat(values);
-  withPath<R>(path, [&](auto pc) {
-    constexpr Path P = decltype(pc)::value;
-    const bool region = regionOpens(key, bitOf(P), roi) && mayFork();
-    const PxlSize walk = region ? roi : serialShape<L>(src, srcStep, src, srcStep, dst, dstStep, roi);
-    const int len = walk.width * Period;
-    rowsShapeA(walk.height, region, [&](int y) {
-      rowConst<Op, P, R, Period>(reinterpret_cast<const R*>(rowAt(src, srcStep, y)), pat,
-                                 reinterpret_cast<R*>(rowAt(dst, dstStep, y)), len, scale);
-    });
-  });
-}
-
-template <class Op, class T, Lay L>
-PxlStatus constMember(const T* src, int srcStep, const T* values, T* dst, int dStep, PxlSize roi, int scale,
-                      bool inPlace) {
-  using R = PartOf<T>;
-  constexpr int parts = Sample<T>::parts;
-  constexpr int used = processedOf(L);
-  const Path path = addSubPath<Op, T>(scale);
-
-  if constexpr (kIs16u<T> && (L == Lay::C3 || L == Lay::C4)) {
-    // Equal constants make a C1 problem of three or four times the width.
-    if (values == nullptr) return pxlStsNullPtr;
-    if (std::all_of(values, values + used, [&](T v) { return v == values[0]; }))
-      return foldToC1(roi, used, [&](PxlSize r) {
-        return constMember<Op, T, Lay::C1>(src, srcStep, values, dst, dStep, r, scale, inPlace);
-      });
-  }
-  if constexpr (kIs16u<T> && L == Lay::C1) {
-    if (path == Path::Above) {
-      if (!inPlace && src == nullptr) return pxlStsNullPtr;
-      return fillZero<T, L>(dst, dStep, roi);
-    }
-    if (!Op::kSub && path == Path::Bound && values[0] != 0) {
-      if (!inPlace && src == nullptr) return pxlStsNullPtr;
-      return move::setImageUniform<T, L>(T(65535), dst, dStep, roi);
-    }
-  }
-  if (anyNull(src, dst, values)) return pxlStsNullPtr;
-  if (PxlStatus st = checkShape<kAddSubOrder<T>>(roi, srcStep, dStep)) return st;
-
-  if constexpr (L == Lay::C1 && !kComplex<T> && !std::is_floating_point_v<R>) {
-    // A zero constant at scale 0 is a copy, or nothing at all in place.
-    if (scale == 0 && values[0] == 0) return inPlace ? pxlStsOk : move::copyImage<T, L>(src, srcStep, dst, dStep, roi);
-    if constexpr (std::is_same_v<T, Pxl8u> && !Op::kSub) {
-      if (path == Path::Bound && values[0] > 0) return move::setImageUniform<T, L>(T(255), dst, dStep, roi);
-    }
-  }
-  if (path == Path::Above) return fillZero<T, L>(dst, dStep, roi);
-
-  const GateKey key{Op::kFamC, typeTagOf<T>(), L, inPlace};
-  const R* v = reinterpret_cast<const R*>(values);
-  if constexpr (L == Lay::AC4) {
-    if constexpr (std::is_same_v<T, Pxl32f>) {
-      if (inPlace) {
-        // In place, 32f runs the C4 kernel with a fourth constant of zero:
-        // alpha is rewritten as itself (a negative zero becomes positive
-        // under Add).
-        const R v4[4] = {v[0], v[1], v[2], R(0)};
-        constRows<Op, T, Lay::C4, 4>(src, srcStep, v4, dst, dStep, roi, scale, path, key);
-        return pxlStsOk;
-      }
-    }
-    withPath<R>(path, [&](auto pc) {
-      constexpr Path P = decltype(pc)::value;
-      for (int y = 0; y < roi.height; ++y)
-        rowConstAC4<Op, P, R, parts>(reinterpret_cast<const R*>(rowAt(src, srcStep, y)), v,
-                                     reinterpret_cast<R*>(rowAt(dst, dStep, y)), roi.width, scale);
-    });
-  } else {
-    constRows<Op, T, L, used * parts>(src, srcStep, v, dst, dStep, roi, scale, path, key);
-  }
-  return pxlStsOk;
-}
-
-template <class Op, class T, Lay L>
-PxlStatus imageConst(const T* src, int srcStep, ValueArg<T, L> value, T* dst, int dstStep, PxlSize roi,
-                     int scale = 0) {
-  if constexpr (L == Lay::C1) {
-    return constMember<Op, T, L>(src, srcStep, &value, dst, dstStep, roi, scale, false);
-  } else {
-    return constMember<Op, T, L>(src, srcStep, value, dst, dstStep, roi, scale, false);
-  }
-}
-
-template <class Op, class T, Lay L>
-PxlStatus imageConst(ValueArg<T, L> value, T* srcDst, int srcDstStep, PxlSize roi, int scale = 0) {
-  if constexpr (L == Lay::C1) {
-    return constMember<Op, T, L>(srcDst, srcDstStep, &value, srcDst, srcDstStep, roi, scale, true);
-  } else {
-    return constMember<Op, T, L>(srcDst, srcDstStep, value, srcDst, srcDstStep, roi, scale, true);
-  }
-}
-
-// ------------------------------------------------------------ vectors
-
-template <class T>
-inline PxlStatus vectorZero(T* dst, int length) {
-  std::fill(dst, dst + length, T{});
-  return pxlStsOk;
-}
-
-template <class Op, class T>
-PxlStatus vectorBinary(const T* src1, const T* src2, T* dst, int length, int scale = 0) {
-  using R = PartOf<T>;
-  if (anyNull(src1, src2, dst)) return pxlStsNullPtr;
-  if (length < 1) return pxlStsSize;
-  const Path path = addSubPath<Op, T>(scale);
-  if (path == Path::Above) return vectorZero(dst, length);
-  // Complex parts are independent: a complex vector is a real one twice as long.
-  withPath<R>(path, [&](auto pc) {
-    rowBinary<Op, decltype(pc)::value>(reinterpret_cast<const R*>(src1), reinterpret_cast<const R*>(src2),
-                                       reinterpret_cast<R*>(dst), length * Sample<T>::parts, scale);
-  });
-  return pxlStsOk;
-}
-
-template <class Op, class T>
-PxlStatus vectorBinary(const T* src, T* srcDst, int length, int scale = 0) {
-  return vectorBinary<Op, T>(src, srcDst, srcDst, length, scale);
-}
-
-template <class Op, class T>
-PxlStatus vectorConst(const T* src, T value, T* dst, int length, int scale = 0) {
-  using R = PartOf<T>;
-  constexpr int parts = Sample<T>::parts;
-  if (anyNull(src, dst)) return pxlStsNullPtr;
-  if (length < 1) return pxlStsSize;
-  const Path path = addSubPath<Op, T>(scale);
-  if (path == Path::Above) return vectorZero(dst, length);
-  const Pattern<R, parts> pat(reinterpret_cast<const R*>(&value));
-  withPath<R>(path, [&](auto pc) {
-    rowConst<Op, decltype(pc)::value, R, parts>(reinterpret_cast<const R*>(src), pat, reinterpret_cast<R*>(dst),
-                                                length * parts, scale);
-  });
-  return pxlStsOk;
-}
-
-template <class Op, class T>
-PxlStatus vectorConst(T value, T* srcDst, int length, int scale = 0) {
-  return vectorConst<Op, T>(srcDst, value, srcDst, length, scale);
-}
 
 }  // namespace pxl::arith

@@ -106,6 +106,17 @@ inline W scaleRule(W x, int s) {
   }
 }
 
+// A float product that the compiler may not fuse with the sum it feeds.
+// -ffp-contract=off keeps plain expressions apart, but GCC's recognition of
+// complex multiplication in the vectoriser still forms fused multiply-adds
+// on AVX2; an opaque register stops it, so every level rounds each product.
+template <class F>
+inline F roundedProduct(F a, F b) {
+  F p = a * b;
+  __asm__("" : "+x"(p));
+  return p;
+}
+
 template <Path P>
 using PathC = std::integral_constant<Path, P>;
 
@@ -131,28 +142,45 @@ inline void withPath(Path p, F&& f) {
 
 // ------------------------------------------------------------------ kernels
 // Op::exact(a, b) gives the exact result of the operation on wide lanes; the
-// second operand is the image that a subtraction subtracts from.
+// second operand is the image that a subtraction subtracts from. The lane
+// width is the operation's: Op::Wide<R, P> holds every intermediate value of
+// path P without overflow (a sum needs one bit more than its operands, a
+// product twice as many, and the rounding of a long shift a little more).
+// Op::kClampBeforeShift: the Neg path first saturates x to the type, so that
+// the shift of a product cannot overflow its lane; the result is the same as
+// shifting the exact value. Op::kSaturatingZero: path Zero is a plain
+// saturating operation of whole registers (Add, Sub).
 
-template <class R>
-inline constexpr int kBlock = simd::kLanes<WideOf<R>>;
+template <class Op, class R, Path P>
+using LaneOf = typename Op::template Wide<R, P>;
 
-template <class R>
-using WideVec = simd::Vec<WideOf<R>, kBlock<R>>;
-template <class R>
-using NarrowVec = simd::Vec<R, kBlock<R>>;
+template <class Op, class R, Path P>
+inline constexpr int kBlock = simd::kLanes<LaneOf<Op, R, P>>;
+
+template <class Op, class R, Path P>
+using WideVec = simd::Vec<LaneOf<Op, R, P>, kBlock<Op, R, P>>;
+template <class Op, class R, Path P>
+using NarrowVec = simd::Vec<R, kBlock<Op, R, P>>;
+
+// The operation and the scale rule on one lane (scalar or vector).
+template <class Op, Path P, class R, class W>
+inline W applyRule(W x, int s) {
+  if constexpr (P == Path::Neg && Op::kClampBeforeShift) x = saturate<W, R>(x);
+  return scaleRule<P, R>(x, s);
+}
 
 template <class Op, Path P, class R>
 inline R lane(R a, R b, int s) {
-  using W = WideOf<R>;
-  return static_cast<R>(scaleRule<P, R>(Op::exact(W(a), W(b)), s));
+  using W = LaneOf<Op, R, P>;
+  return static_cast<R>(applyRule<Op, P, R>(Op::exact(W(a), W(b)), s));
 }
 
 template <class Op, Path P, class R>
 inline void blockBinary(const R* a, const R* b, R* d, int s) {
-  using WV = WideVec<R>;
-  using NV = NarrowVec<R>;
+  using WV = WideVec<Op, R, P>;
+  using NV = NarrowVec<Op, R, P>;
   const WV x = Op::exact(simd::convert<WV>(simd::load<NV>(a)), simd::convert<WV>(simd::load<NV>(b)));
-  simd::store(d, simd::convert<NV>(scaleRule<P, R>(x, s)));
+  simd::store(d, simd::convert<NV>(applyRule<Op, P, R>(x, s)));
 }
 
 // The first operand of a saturating run: a row, or one constant in every lane.
@@ -165,19 +193,26 @@ inline simd::Reg<R> operandAt(const simd::Reg<R>& constant, int) {
   return constant;
 }
 
+// Operations whose scale-1 result on unsigned lanes is the halved sum.
+template <class Op, class = void>
+struct HalvedSumAtOne : std::false_type {};
+template <class Op>
+struct HalvedSumAtOne<Op, std::void_t<decltype(Op::kHalvedSumAtOne)>> : std::bool_constant<Op::kHalvedSumAtOne> {};
+
 // Path Zero of 8- and 16-bit types is a plain saturating operation, and the
 // unsigned sum at scale 1 an average: whole registers of narrow lanes, no
 // widening. Returns the samples done; the widened blocks and the tail take
 // the rest.
 template <class Op, Path P, class R, class A>
 inline int saturatingRun(const A& a, const R* b, R* d, int len) {
-  if constexpr (P == Path::Zero && simd::kHasSaturating<R>) {
+  if constexpr (P == Path::Zero && Op::kSaturatingZero && simd::kHasSaturating<R>) {
     constexpr int M = simd::kLanes<R>;
     int i = 0;
     for (; i + M <= len; i += M)
       simd::store(d + i, Op::saturating(operandAt<R>(a, i), simd::load<simd::Reg<R>>(b + i)));
     return i;
-  } else if constexpr (P == Path::One && !Op::kSub && (std::is_same_v<R, std::uint8_t> || std::is_same_v<R, std::uint16_t>)) {
+  } else if constexpr (P == Path::One && HalvedSumAtOne<Op>::value &&
+                       (std::is_same_v<R, std::uint8_t> || std::is_same_v<R, std::uint16_t>)) {
     // The unsigned sum halved: the rounded-up average, less one where the
     // sum is odd (a ^ b odd) and the average came out odd, which is exactly
     // the tie that goes down to the even neighbour.
@@ -200,7 +235,7 @@ inline int saturatingRun(const A& a, const R* b, R* d, int len) {
 // Two operands, len samples.
 template <class Op, Path P, class R>
 void rowBinary(const R* a, const R* b, R* d, int len, int s) {
-  constexpr int N = kBlock<R>;
+  constexpr int N = kBlock<Op, R, P>;
   int i = saturatingRun<Op, P, R>(a, b, d, len);
   for (; i + N <= len; i += N) blockBinary<Op, P>(a + i, b + i, d + i, s);
   for (; i < len; ++i) d[i] = lane<Op, P>(a[i], b[i], s);
@@ -218,7 +253,7 @@ void rowBinaryOrdered(const R* a, const R* b, R* d, int len, int s) {
 // starting from the phase it begins at.
 template <class R, int Period>
 struct Pattern {
-  static constexpr int kLen = Period * (kBlock<R> + 1);
+  static constexpr int kLen = Period * (simd::kLanes<R> + 1);
   R v[kLen];
   explicit Pattern(const R* values) {
     for (int i = 0; i < kLen; ++i) v[i] = values[i % Period];
@@ -228,9 +263,9 @@ struct Pattern {
 // Constant operand: x = src (op) constant, len samples.
 template <class Op, Path P, class R, int Period>
 void rowConst(const R* src, const Pattern<R, Period>& pat, R* d, int len, int s) {
-  using WV = WideVec<R>;
-  using NV = NarrowVec<R>;
-  constexpr int N = kBlock<R>;
+  using WV = WideVec<Op, R, P>;
+  using NV = NarrowVec<Op, R, P>;
+  constexpr int N = kBlock<Op, R, P>;
   constexpr int step = N % Period;
   int i = 0, phase = 0;
   if constexpr (Period == 1) {
@@ -238,13 +273,13 @@ void rowConst(const R* src, const Pattern<R, Period>& pat, R* d, int len, int s)
     const WV c = splat<WV>(pat.v[0]);
     for (; i + N <= len; i += N) {
       const WV x = Op::exact(c, simd::convert<WV>(simd::load<NV>(src + i)));
-      simd::store(d + i, simd::convert<NV>(scaleRule<P, R>(x, s)));
+      simd::store(d + i, simd::convert<NV>(applyRule<Op, P, R>(x, s)));
     }
   } else {
     for (; i + N <= len; i += N) {
       const WV c = simd::convert<WV>(simd::load<NV>(pat.v + phase));
       const WV x = Op::exact(c, simd::convert<WV>(simd::load<NV>(src + i)));
-      simd::store(d + i, simd::convert<NV>(scaleRule<P, R>(x, s)));
+      simd::store(d + i, simd::convert<NV>(applyRule<Op, P, R>(x, s)));
       phase += step;
       if (phase >= Period) phase -= Period;
     }

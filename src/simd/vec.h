@@ -32,15 +32,21 @@ using Vec = typename VecOf<T, N>::type;
 template <class T>
 inline constexpr int kLanes = kBytes / int(sizeof(T));
 
+// A 128-bit integer is a scalar lane too: the exact sums of 32-bit complex
+// products need it (scalar code only, never a vector).
+__extension__ typedef __int128 Int128;
+template <class V>
+inline constexpr bool kIsScalar = std::is_arithmetic_v<V> || std::is_same_v<V, Int128>;
+
 template <class V>
 struct ElemOf {
   using type = std::remove_cv_t<std::remove_reference_t<decltype(std::declval<V>()[0])>>;
 };
 template <class V>
-using Elem = typename std::conditional_t<std::is_arithmetic_v<V>, std::common_type<V>, ElemOf<V>>::type;
+using Elem = typename std::conditional_t<kIsScalar<V>, std::common_type<V>, ElemOf<V>>::type;
 
 template <class V>
-inline constexpr bool kIsVector = !std::is_arithmetic_v<V>;
+inline constexpr bool kIsVector = !kIsScalar<V>;
 
 template <class V, class T>
 inline V load(const T* p) {
@@ -150,12 +156,15 @@ inline V vmax(V a, V b) {
 template <class V>
 inline V shiftLeft(V x, int n) {
   using E = Elem<V>;
-  using U = std::make_unsigned_t<E>;
-  if constexpr (kIsVector<V>) {
+  if constexpr (std::is_same_v<E, Int128>) {
+    __extension__ typedef unsigned __int128 U128;
+    return static_cast<V>(static_cast<U128>(x) << n);
+  } else if constexpr (kIsVector<V>) {
+    using U = std::make_unsigned_t<E>;
     using UV = Vec<U, int(sizeof(V) / sizeof(E))>;
     return (V)((UV)x << n);
   } else {
-    return static_cast<V>(static_cast<U>(x) << n);
+    return static_cast<V>(static_cast<std::make_unsigned_t<E>>(x) << n);
   }
 }
 
