@@ -21,15 +21,20 @@ static double nowMs(void) {
     return t.tv_sec * 1e3 + t.tv_nsec / 1e6;
 }
 
-static int writePnm(const char* dir, const char* name, const Pxl8u* img, int step, int channels) {
+static int writePnmSized(const char* dir, const char* name, const Pxl8u* img, int step, int channels, int w,
+                         int h) {
     char path[1024];
     snprintf(path, sizeof path, "%s/%s.%s", dir, name, channels == 1 ? "pgm" : "ppm");
     FILE* f = fopen(path, "wb");
     if (!f) return -1;
-    fprintf(f, "P%d\n%d %d\n255\n", channels == 1 ? 5 : 6, W, H);
-    for (int y = 0; y < H; ++y) fwrite(img + (size_t)y * step, 1, (size_t)W * channels, f);
+    fprintf(f, "P%d\n%d %d\n255\n", channels == 1 ? 5 : 6, w, h);
+    for (int y = 0; y < h; ++y) fwrite(img + (size_t)y * step, 1, (size_t)w * channels, f);
     fclose(f);
     return 0;
+}
+
+static int writePnm(const char* dir, const char* name, const Pxl8u* img, int step, int channels) {
+    return writePnmSized(dir, name, img, step, channels, W, H);
 }
 
 /* A scene: a diagonal ramp with a bright disc and a dark ring. */
@@ -48,7 +53,7 @@ struct Timing { const char* name; double ms; };
 
 int main(int argc, char** argv) {
     const char* dir = argc > 1 ? argv[1] : ".";
-    struct Timing t[8];
+    struct Timing t[16];
     int nt = 0, ok = 1, s1, s2, s3, sc, s16, sf;
     PxlSize roi = {W, H};
     double t0;
@@ -99,28 +104,21 @@ int main(int argc, char** argv) {
     }
 
     /* Signed difference in 16 bits, shown around mid-grey. */
-    for (int y = 0; y < H; ++y)
-        for (int x = 0; x < W; ++x) w16[(size_t)y * s16 / 2 + x] = a[(size_t)y * s1 + x];
     t0 = nowMs();
+    ok &= pxliConvert_8u16s_C1R(a, s1, w16, s16, roi) == pxlStsOk;
     {
         Pxl16s* tmp = pxliMalloc_16s_C1(W, H, &s16);
-        for (int y = 0; y < H; ++y)
-            for (int x = 0; x < W; ++x) tmp[(size_t)y * s16 / 2 + x] = b[(size_t)y * s2 + x];
+        ok &= pxliConvert_8u16s_C1R(b, s2, tmp, s16, roi) == pxlStsOk;
         ok &= pxliSub_16s_C1IRSfs(tmp, s16, w16, s16, roi, 1) == pxlStsOk; /* (a - b) / 2 */
         ok &= pxliAddC_16s_C1IRSfs(128, w16, s16, roi, 0) == pxlStsOk;
         pxliFree(tmp);
     }
-    t[nt++] = (struct Timing){"Sub_16s", nowMs() - t0};
-    for (int y = 0; y < H; ++y)
-        for (int x = 0; x < W; ++x) {
-            int v = w16[(size_t)y * s16 / 2 + x];
-            d[(size_t)y * s3 + x] = (Pxl8u)(v < 0 ? 0 : v > 255 ? 255 : v);
-        }
+    ok &= pxliConvert_16s8u_C1R(w16, s16, d, s3, roi) == pxlStsOk; /* clamped to 0..255 */
+    t[nt++] = (struct Timing){"Convert+Sub_16s", nowMs() - t0};
     writePnm(dir, "signed_difference", d, s3, 1);
 
     /* Float: a vignette subtracted from the image. */
-    for (int y = 0; y < H; ++y)
-        for (int x = 0; x < W; ++x) f32[(size_t)y * sf / 4 + x] = a[(size_t)y * s1 + x];
+    ok &= pxliConvert_8u32f_C1R(a, s1, f32, sf, roi) == pxlStsOk;
     {
         Pxl32f* vig = pxliMalloc_32f_C1(W, H, &sf);
         for (int y = 0; y < H; ++y)
@@ -131,12 +129,35 @@ int main(int argc, char** argv) {
         t[nt++] = (struct Timing){"Sub_32f", nowMs() - t0};
         pxliFree(vig);
     }
-    for (int y = 0; y < H; ++y)
-        for (int x = 0; x < W; ++x) {
-            float v = f32[(size_t)y * sf / 4 + x];
-            d[(size_t)y * s3 + x] = (Pxl8u)(v < 0 ? 0 : v > 255 ? 255 : v + 0.5f);
-        }
+    ok &= pxliConvert_32f8u_C1R(f32, sf, d, s3, roi, pxlRndNear) == pxlStsOk; /* saturated, ties to even */
     writePnm(dir, "vignette", d, s3, 1);
+
+    /* The product of the two frames over 256: dark where either is dark. */
+    t0 = nowMs();
+    ok &= pxliMul_8u_C1RSfs(a, s1, b, s2, d, s3, roi, 8) == pxlStsOk;
+    t[nt++] = (struct Timing){"Mul_8u", nowMs() - t0};
+    writePnm(dir, "product", d, s3, 1);
+
+    /* Geometry: the colour image mirrored left to right, frame a transposed
+     * (H x W), and the centre of frame a grown back to full size by
+     * repeating its edge pixels. */
+    {
+        int sm, stp, sb;
+        Pxl8u* mirrored = pxliMalloc_8u_C3(W, H, &sm);
+        Pxl8u* transposed = pxliMalloc_8u_C1(H, W, &stp);
+        Pxl8u* bordered = pxliMalloc_8u_C1(W, H, &sb);
+        const PxlSize centre = {W / 2, H / 2};
+        t0 = nowMs();
+        ok &= pxliMirror_8u_C3R(color, sc, mirrored, sm, roi, pxlAxsVertical) == pxlStsOk;
+        ok &= pxliTranspose_8u_C1R(a, s1, transposed, stp, roi) == pxlStsOk;
+        ok &= pxliCopyReplicateBorder_8u_C1R(a + (size_t)(H / 4) * s1 + W / 4, s1, centre, bordered, sb, roi, H / 4,
+                                             W / 4) == pxlStsOk;
+        t[nt++] = (struct Timing){"Mirror+Transpose+Border", nowMs() - t0};
+        writePnm(dir, "mirrored_color", mirrored, sm, 3);
+        writePnmSized(dir, "transposed", transposed, stp, 1, H, W);
+        writePnm(dir, "border_replicate", bordered, sb, 1);
+        pxliFree(mirrored); pxliFree(transposed); pxliFree(bordered);
+    }
 
     /* Data movement: the colour image with red and blue exchanged, its
      * green channel alone, and the change mask painted red on it. */
