@@ -759,6 +759,451 @@ PXL_API PxlStatus PXL_CALL pxliSwapChannels_32f_AC4R(const Pxl32f* src, int srcS
 PXL_API PxlStatus PXL_CALL pxliSwapChannels_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
     const int* dstOrder);
 
+/* ---- pxliAnd: dst = src1 & src2; AC4 leaves the alpha of dst */
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_C1R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_C1IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_C3R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_C3IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_C4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_C4IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_AC4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_AC4IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_C1R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_C1IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_C3R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_C3IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_C4R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_C4IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_AC4R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_AC4IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_C1R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_C1IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_C3R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_C3IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_C4R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_C4IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_AC4R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_AC4IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+
+/* ---- pxliAndC: dst = src & value (one constant per channel) */
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u value, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_C1IR(Pxl8u value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_C3R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_C3IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_C4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_C4IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_AC4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_AC4IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_C1R(const Pxl16u* src, int srcStep, Pxl16u value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_C1IR(Pxl16u value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_C3R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_C3IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_C4R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_C4IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_AC4R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_AC4IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_C1R(const Pxl32s* src, int srcStep, Pxl32s value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_C1IR(Pxl32s value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_C3R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_C3IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_C4R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_C4IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_AC4R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_AC4IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+
+/* ---- pxliOr: dst = src1 | src2; AC4 leaves the alpha of dst */
+PXL_API PxlStatus PXL_CALL pxliOr_8u_C1R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_C1IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_C3R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_C3IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_C4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_C4IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_AC4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_AC4IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_C1R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_C1IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_C3R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_C3IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_C4R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_C4IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_AC4R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_AC4IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_C1R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_C1IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_C3R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_C3IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_C4R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_C4IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_AC4R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_AC4IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+
+/* ---- pxliOrC: dst = src | value (one constant per channel) */
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u value, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_C1IR(Pxl8u value, Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_C3R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_C3IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_C4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_C4IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_AC4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_AC4IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_C1R(const Pxl16u* src, int srcStep, Pxl16u value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_C1IR(Pxl16u value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_C3R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_C3IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_C4R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_C4IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_AC4R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_AC4IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_C1R(const Pxl32s* src, int srcStep, Pxl32s value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_C1IR(Pxl32s value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_C3R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_C3IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_C4R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_C4IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_AC4R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_AC4IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+
+/* ---- pxliXor: dst = src1 ^ src2; AC4 leaves the alpha of dst */
+PXL_API PxlStatus PXL_CALL pxliXor_8u_C1R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_C1IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_C3R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_C3IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_C4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_C4IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_AC4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_AC4IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_C1R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_C1IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_C3R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_C3IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_C4R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_C4IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_AC4R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_AC4IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_C1R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_C1IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_C3R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_C3IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_C4R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_C4IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_AC4R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_AC4IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+
+/* ---- pxliXorC: dst = src ^ value (one constant per channel) */
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u value, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_C1IR(Pxl8u value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_C3R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_C3IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_C4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_C4IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_AC4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_AC4IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_C1R(const Pxl16u* src, int srcStep, Pxl16u value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_C1IR(Pxl16u value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_C3R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_C3IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_C4R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_C4IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_AC4R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_AC4IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_C1R(const Pxl32s* src, int srcStep, Pxl32s value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_C1IR(Pxl32s value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_C3R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_C3IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_C4R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_C4IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_AC4R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_AC4IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+
+/* ---- pxliNot: dst = ~src */
+PXL_API PxlStatus PXL_CALL pxliNot_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+
+/* ---- pxliLShiftC: dst = src << value (a count per channel); counts from the sample width on give 0 */
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_C1R(const Pxl8u* src, int srcStep, Pxl32u value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_C1IR(Pxl32u value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_C3R(const Pxl8u* src, int srcStep, const Pxl32u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_C3IR(const Pxl32u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_C4R(const Pxl8u* src, int srcStep, const Pxl32u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_C4IR(const Pxl32u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_AC4R(const Pxl8u* src, int srcStep, const Pxl32u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_AC4IR(const Pxl32u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_C1R(const Pxl16u* src, int srcStep, Pxl32u value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_C1IR(Pxl32u value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_C3R(const Pxl16u* src, int srcStep, const Pxl32u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_C3IR(const Pxl32u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_C4R(const Pxl16u* src, int srcStep, const Pxl32u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_C4IR(const Pxl32u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_AC4R(const Pxl16u* src, int srcStep, const Pxl32u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_AC4IR(const Pxl32u* value, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_C1R(const Pxl32s* src, int srcStep, Pxl32u value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_C1IR(Pxl32u value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_C3R(const Pxl32s* src, int srcStep, const Pxl32u* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_C3IR(const Pxl32u* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_C4R(const Pxl32s* src, int srcStep, const Pxl32u* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_C4IR(const Pxl32u* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_AC4R(const Pxl32s* src, int srcStep, const Pxl32u* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_AC4IR(const Pxl32u* value, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+
+/* ---- pxliRShiftC: dst = src >> value; arithmetic for signed samples, where counts past 31 act as 31 */
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_C1R(const Pxl8u* src, int srcStep, Pxl32u value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_C1IR(Pxl32u value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_C3R(const Pxl8u* src, int srcStep, const Pxl32u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_C3IR(const Pxl32u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_C4R(const Pxl8u* src, int srcStep, const Pxl32u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_C4IR(const Pxl32u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_AC4R(const Pxl8u* src, int srcStep, const Pxl32u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_AC4IR(const Pxl32u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_C1R(const Pxl8s* src, int srcStep, Pxl32u value,
+    Pxl8s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_C1IR(Pxl32u value, Pxl8s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_C3R(const Pxl8s* src, int srcStep, const Pxl32u* value,
+    Pxl8s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_C3IR(const Pxl32u* value, Pxl8s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_C4R(const Pxl8s* src, int srcStep, const Pxl32u* value,
+    Pxl8s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_C4IR(const Pxl32u* value, Pxl8s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_AC4R(const Pxl8s* src, int srcStep, const Pxl32u* value,
+    Pxl8s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_AC4IR(const Pxl32u* value, Pxl8s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_C1R(const Pxl16u* src, int srcStep, Pxl32u value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_C1IR(Pxl32u value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_C3R(const Pxl16u* src, int srcStep, const Pxl32u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_C3IR(const Pxl32u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_C4R(const Pxl16u* src, int srcStep, const Pxl32u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_C4IR(const Pxl32u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_AC4R(const Pxl16u* src, int srcStep, const Pxl32u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_AC4IR(const Pxl32u* value, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_C1R(const Pxl16s* src, int srcStep, Pxl32u value,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_C1IR(Pxl32u value, Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_C3R(const Pxl16s* src, int srcStep, const Pxl32u* value,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_C3IR(const Pxl32u* value, Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_C4R(const Pxl16s* src, int srcStep, const Pxl32u* value,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_C4IR(const Pxl32u* value, Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_AC4R(const Pxl16s* src, int srcStep, const Pxl32u* value,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_AC4IR(const Pxl32u* value, Pxl16s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_C1R(const Pxl32s* src, int srcStep, Pxl32u value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_C1IR(Pxl32u value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_C3R(const Pxl32s* src, int srcStep, const Pxl32u* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_C3IR(const Pxl32u* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_C4R(const Pxl32s* src, int srcStep, const Pxl32u* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_C4IR(const Pxl32u* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_AC4R(const Pxl32s* src, int srcStep, const Pxl32u* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_AC4IR(const Pxl32u* value, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+
 #ifdef __cplusplus
 }
 #endif

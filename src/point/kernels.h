@@ -1,0 +1,145 @@
+// Row drivers of the pointwise decisions: logic, shifts, thresholds and
+// comparisons. Each family states its rule once, as a generic lambda over
+// lanes; the drivers here run it on whole registers and then on the scalar
+// tail, so every length and alignment goes through the same expression.
+//
+// The operands besides the source are read through small adaptors: another
+// image's row (Row) or a per-channel constant laid out so that a register
+// loaded at a given phase holds the constants of the samples from there on
+// (Consts). The lambda never knows which.
+#pragma once
+
+#include <cstdint>
+#include <type_traits>
+
+#include "frame/frame.h"
+#include "simd/vec.h"
+
+namespace pxl::point {
+
+using simd::kIsVector;
+using simd::load;
+using simd::store;
+
+template <class T>
+using Reg = simd::Reg<T>;
+template <class T>
+inline constexpr int kLanes = simd::kLanes<T>;
+
+// The operand at sample i of a second image row.
+template <class T>
+struct Row {
+  const T* p;
+  template <class V>
+  V at(int i, int) const {
+    if constexpr (kIsVector<V>)
+      return load<V>(p + i);
+    else
+      return p[i];
+  }
+};
+
+// One constant per channel, period P samples. A register starting at a
+// sample whose channel is `phase` loads from v + phase.
+template <class T, int P>
+struct Consts {
+  T v[P + kLanes<T>];
+  explicit Consts(const T* vals) {
+    for (int i = 0; i < P + kLanes<T>; ++i) v[i] = vals[i % P];
+  }
+  template <class V>
+  V at(int, int phase) const {
+    if constexpr (kIsVector<V>)
+      return load<V>(v + phase);
+    else
+      return v[phase];
+  }
+};
+
+// The constants of a member's processed channels as a pattern of the
+// layout's period: AC4 repeats the first constant in the alpha lane, whose
+// result is never stored.
+template <class T, Lay L>
+Consts<T, channelsOf(L)> constsOf(const T* vals) {
+  T full[4];
+  for (int c = 0; c < channelsOf(L); ++c) full[c] = vals[c < processedOf(L) ? c : 0];
+  return Consts<T, channelsOf(L)>(full);
+}
+
+// d[i] = f(s[i], operands at i...) for n samples laid out with period P.
+// With Alpha (AC4) every fourth sample of d keeps what it held: whole
+// registers are merged with the old destination through a lane mask. The
+// in-place forms pass d == s; each register is read before it is written.
+template <int P, bool Alpha, class T, class F, class... Ops>
+void mapRow(const T* s, T* d, int n, F&& f, const Ops&... ops) {
+  using V = Reg<T>;
+  constexpr int K = kLanes<T>;
+  int i = 0;
+  if constexpr (Alpha) {
+    static_assert(K % 4 == 0, "a register holds whole pixels");
+    using M = decltype(V{} < V{});
+    M colour;
+    for (int j = 0; j < K; ++j) colour[j] = j % 4 == 3 ? 0 : -1;
+    for (; i + K <= n; i += K) {
+      const V r = f(load<V>(s + i), ops.template at<V>(i, 0)...);
+      store(d + i, simd::select<V>(colour, r, load<V>(d + i)));
+    }
+    for (; i < n; ++i)
+      if (i % 4 != 3) d[i] = static_cast<T>(f(s[i], ops.template at<T>(i, i % 4)...));
+  } else {
+    int phase = 0;
+    for (; i + K <= n; i += K) {
+      store(d + i, static_cast<V>(f(load<V>(s + i), ops.template at<V>(i, phase)...)));
+      phase = (phase + K) % P;
+    }
+    for (; i < n; ++i) {
+      d[i] = static_cast<T>(f(s[i], ops.template at<T>(i, phase)...));
+      if (++phase == P) phase = 0;
+    }
+  }
+}
+
+// The row of a member of layout L: width pixels.
+template <Lay L, class T, class F, class... Ops>
+void mapPixels(const T* s, T* d, int width, F&& f, const Ops&... ops) {
+  mapRow<channelsOf(L), L == Lay::AC4>(s, d, width * channelsOf(L), f, ops...);
+}
+
+// Comparison masks: 255 where f holds in every processed channel of a
+// pixel, 0 elsewhere, one byte per pixel. f returns a lane mask (-1 or 0 per
+// lane) on registers and a truth value on scalars. A register block covers
+// K pixels (Ch registers); single-channel rows narrow the mask straight to
+// bytes, the others gather the channels of each pixel from the block.
+template <Lay L, class T, class F, class... Ops>
+void maskPixels(const T* s, Pxl8u* d, int width, F&& f, const Ops&... ops) {
+  using V = Reg<T>;
+  constexpr int K = kLanes<T>, Ch = channelsOf(L), Used = processedOf(L);
+  using B = simd::Vec<std::int8_t, K>;
+  int x = 0;
+  for (; x + K <= width; x += K) {
+    if constexpr (Ch == 1) {
+      store(d + x, simd::convert<B>(f(load<V>(s + x), ops.template at<V>(x, 0)...)));
+    } else {
+      std::int8_t block[Ch * K];
+      for (int j = 0; j < Ch; ++j) {
+        const int i = x * Ch + j * K;
+        store(block + j * K, simd::convert<B>(f(load<V>(s + i), ops.template at<V>(i, (j * K) % Ch)...)));
+      }
+      for (int p = 0; p < K; ++p) {
+        std::int8_t all = -1;
+        for (int c = 0; c < Used; ++c) all &= block[p * Ch + c];
+        d[x + p] = static_cast<Pxl8u>(all);
+      }
+    }
+  }
+  for (; x < width; ++x) {
+    bool all = true;
+    for (int c = 0; c < Used; ++c) {
+      const int i = x * Ch + c;
+      all = all && bool(f(s[i], ops.template at<T>(i, c)...));
+    }
+    d[x] = all ? 255 : 0;
+  }
+}
+
+}  // namespace pxl::point
