@@ -1204,6 +1204,381 @@ PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_AC4R(const Pxl32s* src, int srcStep, 
 PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_AC4IR(const Pxl32u* value, Pxl32s* srcDst,
     int srcDstStep, PxlSize roi);
 
+/* ---- pxliThreshold: relation 4: min(src, threshold); 0: max(src, threshold); a NaN sample gives the threshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl8u threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    Pxl8u threshold, Pxl32s relation);
+
+/* ---- pxliThreshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, Pxl32s relation);
+
+/* ---- pxliThreshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl16s threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    Pxl16s threshold, Pxl32s relation);
+
+/* ---- pxliThreshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_16s_AC4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, Pxl32s relation);
+
+/* ---- pxliThreshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    Pxl32f threshold, Pxl32s relation);
+
+/* ---- pxliThreshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, Pxl32s relation);
+
+/* ---- pxliThreshold_GT: min(src, threshold) */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl8u threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    Pxl8u threshold);
+
+/* ---- pxliThreshold_GT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold);
+
+/* ---- pxliThreshold_GT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl16s threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    Pxl16s threshold);
+
+/* ---- pxliThreshold_GT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_16s_AC4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold);
+
+/* ---- pxliThreshold_GT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    Pxl32f threshold);
+
+/* ---- pxliThreshold_GT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold);
+
+/* ---- pxliThreshold_LT: max(src, threshold) */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl8u threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    Pxl8u threshold);
+
+/* ---- pxliThreshold_LT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold);
+
+/* ---- pxliThreshold_LT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl16s threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    Pxl16s threshold);
+
+/* ---- pxliThreshold_LT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_16s_AC4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold);
+
+/* ---- pxliThreshold_LT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    Pxl32f threshold);
+
+/* ---- pxliThreshold_LT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold);
+
+/* ---- pxliThreshold_Val: relation 4: value where src > threshold (NaN kept); 0: value where src < threshold (NaN replaced); the relation is checked first of all */
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl8u threshold, Pxl8u value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    Pxl8u threshold, Pxl8u value, Pxl32s relation);
+
+/* ---- pxliThreshold_Val */
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value, Pxl32s relation);
+
+/* ---- pxliThreshold_Val */
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl16s threshold, Pxl16s value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    Pxl16s threshold, Pxl16s value, Pxl32s relation);
+
+/* ---- pxliThreshold_Val */
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, const Pxl16s* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_16s_AC4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, const Pxl16s* value, Pxl32s relation);
+
+/* ---- pxliThreshold_Val */
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f threshold, Pxl32f value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    Pxl32f threshold, Pxl32f value, Pxl32s relation);
+
+/* ---- pxliThreshold_Val */
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, const Pxl32f* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, const Pxl32f* value, Pxl32s relation);
+
+/* ---- pxliThreshold_GTVal: value where src > threshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl8u threshold, Pxl8u value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    Pxl8u threshold, Pxl8u value);
+
+/* ---- pxliThreshold_GTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value);
+
+/* ---- pxliThreshold_GTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl16s threshold, Pxl16s value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    Pxl16s threshold, Pxl16s value);
+
+/* ---- pxliThreshold_GTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_C4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_AC4IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+
+/* ---- pxliThreshold_GTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f threshold, Pxl32f value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    Pxl32f threshold, Pxl32f value);
+
+/* ---- pxliThreshold_GTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_C4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+
+/* ---- pxliThreshold_LTVal: value where src < threshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl8u threshold, Pxl8u value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    Pxl8u threshold, Pxl8u value);
+
+/* ---- pxliThreshold_LTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value);
+
+/* ---- pxliThreshold_LTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl16s threshold, Pxl16s value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    Pxl16s threshold, Pxl16s value);
+
+/* ---- pxliThreshold_LTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_C4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_AC4IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+
+/* ---- pxliThreshold_LTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f threshold, Pxl32f value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    Pxl32f threshold, Pxl32f value);
+
+/* ---- pxliThreshold_LTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_C4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+
+/* ---- pxliThreshold_LTValGTVal: valueLT below thresholdLT, valueGT above thresholdGT (NaN gives valueLT); thresholdGT below thresholdLT in any channel is refused */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_8u_C1R(const Pxl8u* src, int srcStep,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl8u thresholdLT, Pxl8u valueLT, Pxl8u thresholdGT,
+    Pxl8u valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_8u_C1IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, Pxl8u thresholdLT, Pxl8u valueLT, Pxl8u thresholdGT, Pxl8u valueGT);
+
+/* ---- pxliThreshold_LTValGTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_8u_C3R(const Pxl8u* src, int srcStep,
+    Pxl8u* dst, int dstStep, PxlSize roi, const Pxl8u* thresholdLT, const Pxl8u* valueLT,
+    const Pxl8u* thresholdGT, const Pxl8u* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_8u_C3IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl8u* thresholdLT, const Pxl8u* valueLT, const Pxl8u* thresholdGT,
+    const Pxl8u* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_8u_AC4R(const Pxl8u* src, int srcStep,
+    Pxl8u* dst, int dstStep, PxlSize roi, const Pxl8u* thresholdLT, const Pxl8u* valueLT,
+    const Pxl8u* thresholdGT, const Pxl8u* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_8u_AC4IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl8u* thresholdLT, const Pxl8u* valueLT, const Pxl8u* thresholdGT,
+    const Pxl8u* valueGT);
+
+/* ---- pxliThreshold_LTValGTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_16s_C1R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl16s thresholdLT, Pxl16s valueLT, Pxl16s thresholdGT,
+    Pxl16s valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_16s_C1IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, Pxl16s thresholdLT, Pxl16s valueLT, Pxl16s thresholdGT, Pxl16s valueGT);
+
+/* ---- pxliThreshold_LTValGTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_16s_C3R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, const Pxl16s* thresholdLT, const Pxl16s* valueLT,
+    const Pxl16s* thresholdGT, const Pxl16s* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_16s_C3IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl16s* thresholdLT, const Pxl16s* valueLT, const Pxl16s* thresholdGT,
+    const Pxl16s* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_16s_AC4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, const Pxl16s* thresholdLT, const Pxl16s* valueLT,
+    const Pxl16s* thresholdGT, const Pxl16s* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_16s_AC4IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl16s* thresholdLT, const Pxl16s* valueLT, const Pxl16s* thresholdGT,
+    const Pxl16s* valueGT);
+
+/* ---- pxliThreshold_LTValGTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_C1R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, Pxl32f thresholdLT, Pxl32f valueLT, Pxl32f thresholdGT,
+    Pxl32f valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_C1IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, Pxl32f thresholdLT, Pxl32f valueLT, Pxl32f thresholdGT, Pxl32f valueGT);
+
+/* ---- pxliThreshold_LTValGTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_C3R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, const Pxl32f* thresholdLT, const Pxl32f* valueLT,
+    const Pxl32f* thresholdGT, const Pxl32f* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_C3IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl32f* thresholdLT, const Pxl32f* valueLT, const Pxl32f* thresholdGT,
+    const Pxl32f* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_AC4R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, const Pxl32f* thresholdLT, const Pxl32f* valueLT,
+    const Pxl32f* thresholdGT, const Pxl32f* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl32f* thresholdLT, const Pxl32f* valueLT, const Pxl32f* thresholdGT,
+    const Pxl32f* valueGT);
+
 #ifdef __cplusplus
 }
 #endif

@@ -66,6 +66,18 @@ Consts<T, channelsOf(L)> constsOf(const T* vals) {
   return Consts<T, channelsOf(L)>(full);
 }
 
+// A constant: by value in C1, one per channel by pointer elsewhere.
+template <class T, Lay L>
+using ValueArg = std::conditional_t<L == Lay::C1, T, const T*>;
+
+template <class T, Lay L>
+inline const T* valuesOf(const ValueArg<T, L>& v) {
+  if constexpr (L == Lay::C1)
+    return &v;
+  else
+    return v;
+}
+
 // d[i] = f(s[i], operands at i...) for n samples laid out with period P.
 // With Alpha (AC4) every fourth sample of d keeps what it held: whole
 // registers are merged with the old destination through a lane mask. The

@@ -33,18 +33,6 @@ struct OpXor {
   static V apply(V a, V b) { return a ^ b; }
 };
 
-// A constant: by value in C1, one per channel by pointer elsewhere.
-template <class T, Lay L>
-using ValueArg = std::conditional_t<L == Lay::C1, T, const T*>;
-
-template <class T, Lay L>
-inline const T* valuesOf(const ValueArg<T, L>& v) {
-  if constexpr (L == Lay::C1)
-    return &v;
-  else
-    return v;
-}
-
 template <class T, Lay L>
 inline bool sameInEveryChannel(const T* v) {
   return std::all_of(v, v + processedOf(L), [v](T x) { return x == v[0]; });
