@@ -759,6 +759,78 @@ PXL_API PxlStatus PXL_CALL pxliSwapChannels_32f_AC4R(const Pxl32f* src, int srcS
 PXL_API PxlStatus PXL_CALL pxliSwapChannels_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
     const int* dstOrder);
 
+/* ---- pxliCompare: dst = 255 where src1 (relation) src2 holds in every channel (AC4: the colour ones), else 0; a relation outside 0..4 writes nothing */
+PXL_API PxlStatus PXL_CALL pxliCompare_8u_C1R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_8u_C3R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_8u_C4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_8u_AC4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_16s_C1R(const Pxl16s* src1, int src1Step, const Pxl16s* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_16s_C3R(const Pxl16s* src1, int src1Step, const Pxl16s* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_16s_C4R(const Pxl16s* src1, int src1Step, const Pxl16s* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_16s_AC4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_32f_C1R(const Pxl32f* src1, int src1Step, const Pxl32f* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_32f_C3R(const Pxl32f* src1, int src1Step, const Pxl32f* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_32f_C4R(const Pxl32f* src1, int src1Step, const Pxl32f* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_32f_AC4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+
+/* ---- pxliCompareC: dst = 255 where src (relation) value holds in every channel; >= is "not <" and > "not <=" */
+PXL_API PxlStatus PXL_CALL pxliCompareC_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_8u_C3R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_8u_C4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_8u_AC4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_16s_C3R(const Pxl16s* src, int srcStep, const Pxl16s* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_16s_C4R(const Pxl16s* src, int srcStep, const Pxl16s* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_16s_AC4R(const Pxl16s* src, int srcStep,
+    const Pxl16s* value, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_32f_C3R(const Pxl32f* src, int srcStep, const Pxl32f* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_32f_C4R(const Pxl32f* src, int srcStep, const Pxl32f* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_32f_AC4R(const Pxl32f* src, int srcStep,
+    const Pxl32f* value, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+
+/* ---- pxliCompareEqualEps: dst = 255 where |src1 - src2| <= eps in every channel; eps below 0 or NaN is refused */
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEps_32f_C1R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEps_32f_C3R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEps_32f_C4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEps_32f_AC4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+
+/* ---- pxliCompareEqualEpsC: dst = 255 where |src - value| <= eps in every channel */
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEpsC_32f_C1R(const Pxl32f* src, int srcStep,
+    Pxl32f value, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEpsC_32f_C3R(const Pxl32f* src, int srcStep,
+    const Pxl32f* value, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEpsC_32f_C4R(const Pxl32f* src, int srcStep,
+    const Pxl32f* value, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEpsC_32f_AC4R(const Pxl32f* src, int srcStep,
+    const Pxl32f* value, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+
 /* ---- pxliAnd: dst = src1 & src2; AC4 leaves the alpha of dst */
 PXL_API PxlStatus PXL_CALL pxliAnd_8u_C1R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
     int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
