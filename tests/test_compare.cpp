@@ -189,7 +189,8 @@ TEST(Compare, EveryMemberReportsTheFirstOfTwoFaultsAndWritesNothing) {
   int pairs = 0;
   for (const Entry& e : kEntries) {
     const bool eps = e.kind == Eps || e.kind == EpsConst;
-    TestImage s1(8, 3, e.channels * e.bytes, 1, 2, Place::Back, 1), s2(8, 3, e.channels * e.bytes, 3, 0, Place::Front, 2),
+    TestImage s1(8, 3, e.channels * e.bytes, e.bytes, 2 * e.bytes, Place::Back, 1),
+        s2(8, 3, e.channels * e.bytes, 3 * e.bytes, 0, Place::Front, 2),
         d(8, 3, 1, 1, 3, Place::Back, 3);
     for (std::size_t i = 0; i < ladder.size(); ++i)
       for (std::size_t j = i; j < ladder.size(); ++j) {

@@ -141,7 +141,7 @@ TEST(Logic, EveryMemberFollowsItsRuleAtEveryLengthOffsetAndCount) {
 
 // The cases where a decision, not arithmetic, fixes the result.
 TEST(Logic, CountsAtAndBeyondTheWidth) {
-  TestImage im(9, 2, 2, 3, 5, Place::Back, 7);
+  TestImage im(9, 2, 2, 4, 6, Place::Back, 7);
   std::int16_t* r0 = im.at<std::int16_t>(0);
   std::int16_t* r1 = im.at<std::int16_t>(1);
   for (int x = 0; x < 9; ++x) r0[x] = -1, r1[x] = 5;
@@ -178,13 +178,13 @@ TEST(Logic, EqualC3ConstantsMatchTheOneChannelForm) {
 }
 
 TEST(Logic, NotLeavesAlphaAndAnErrorWritesNothing) {
-  TestImage s(19, 2, 4, 1, 3, Place::Back, 4), d(19, 2, 4, 5, 0, Place::Front, 5);
+  TestImage s(19, 2, 4, 2, 2, Place::Back, 4), d(19, 2, 4, 6, 0, Place::Front, 5);
   const auto before = d.snapshot();
   ASSERT_EQ(pxliNot_8u_AC4R(s.roi(), s.step(), d.roi(), d.step(), {19, 2}), pxlStsOk);
   for (int y = 0; y < 2; ++y)
     for (int x = 0; x < 19; ++x)
       for (int c = 0; c < 4; ++c)
-        EXPECT_EQ(d.row(y)[x * 4 + c], c == 3 ? before[5 + y * d.step() + x * 4 + c] : Pxl8u(~s.row(y)[x * 4 + c]));
+        EXPECT_EQ(d.row(y)[x * 4 + c], c == 3 ? before[6 + y * d.step() + x * 4 + c] : Pxl8u(~s.row(y)[x * 4 + c]));
   // Null count array with a bad step: the pointer is reported; step before size.
   const auto snap = d.snapshot();
   EXPECT_EQ(pxliRShiftC_16u_C3R(reinterpret_cast<Pxl16u*>(s.roi()), 0, nullptr,

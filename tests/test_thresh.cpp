@@ -236,7 +236,8 @@ TEST(Threshold, EveryMemberReportsTheFirstOfTwoFaultsAndWritesNothing) {
   int pairs = 0;
   for (const Entry& e : kEntries) {
     const int ch = channelsOf(e.layout);
-    TestImage src(9, 3, ch * e.bytes, 3, 2, Place::Back, 1), dstOwn(9, 3, ch * e.bytes, 1, 4, Place::Front, 2);
+    TestImage src(9, 3, ch * e.bytes, 3 * e.bytes, 2 * e.bytes, Place::Back, 1),
+        dstOwn(9, 3, ch * e.bytes, e.bytes, 4 * e.bytes, Place::Front, 2);
     TestImage& dst = e.inPlace ? src : dstOwn;
     Limits L = makeLimits(e, rng);
     const auto l = ladder(e);
