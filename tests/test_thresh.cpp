@@ -196,6 +196,24 @@ TEST(Threshold, EveryFormFollowsItsRuleWithNaNEqualityAndAlpha) {
   EXPECT_EQ(sizeof kEntries / sizeof kEntries[0], 138u);
 }
 
+// Destinations past the cache's share are written with streaming stores
+// after a scalar run up to a register boundary: the same bytes, alpha too.
+TEST(Threshold, LargeImagesGiveTheSameBytes) {
+  std::mt19937 rng(77);
+  const std::pair<const char*, int> big[] = {{"pxliThreshold_8u_AC4IR", 1030},
+                                             {"pxliThreshold_Val_32f_C3R", 345},
+                                             {"pxliThreshold_LTValGTVal_16s_C1R", 2060},
+                                             {"pxliThreshold_GTVal_8u_C4R", 1030}};
+  int ran = 0;
+  for (const Entry& e : kEntries)
+    for (const auto& b : big)
+      if (std::string(e.name) == b.first) {
+        runTrial(e, 2051, b.second, rng);
+        ++ran;
+      }
+  EXPECT_EQ(ran, 4);
+}
+
 // ------------------------------------------------------------ check order
 
 struct Fault {

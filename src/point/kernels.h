@@ -9,6 +9,7 @@
 // (Consts). The lambda never knows which.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <type_traits>
 
@@ -82,39 +83,48 @@ inline const T* valuesOf(const ValueArg<T, L>& v) {
 // With Alpha (AC4) every fourth sample of d keeps what it held: whole
 // registers are merged with the old destination through a lane mask. The
 // in-place forms pass d == s; each register is read before it is written.
-template <int P, bool Alpha, class T, class F, class... Ops>
+// With Stream, the scalar rule first brings d to a register boundary, and
+// the blocks then go around the cache (the caller fences once at the end);
+// a destination not aligned to its sample size is written normally.
+template <int P, bool Alpha, bool Stream = false, class T, class F, class... Ops>
 void mapRow(const T* s, T* d, int n, F&& f, const Ops&... ops) {
   using V = Reg<T>;
   constexpr int K = kLanes<T>;
-  int i = 0;
-  if constexpr (Alpha) {
-    static_assert(K % 4 == 0, "a register holds whole pixels");
-    using M = decltype(V{} < V{});
-    M colour;
-    for (int j = 0; j < K; ++j) colour[j] = j % 4 == 3 ? 0 : -1;
-    for (; i + K <= n; i += K) {
-      const V r = f(load<V>(s + i), ops.template at<V>(i, 0)...);
-      store(d + i, simd::select<V>(colour, r, load<V>(d + i)));
-    }
-    for (; i < n; ++i)
-      if (i % 4 != 3) d[i] = static_cast<T>(f(s[i], ops.template at<T>(i, i % 4)...));
-  } else {
-    int phase = 0;
-    for (; i + K <= n; i += K) {
-      store(d + i, static_cast<V>(f(load<V>(s + i), ops.template at<V>(i, phase)...)));
-      phase = (phase + K) % P;
-    }
-    for (; i < n; ++i) {
-      d[i] = static_cast<T>(f(s[i], ops.template at<T>(i, phase)...));
-      if (++phase == P) phase = 0;
-    }
+  static_assert(!Alpha || K % 4 == 0, "a register holds whole pixels");
+  int i = 0, phase = 0;
+  const auto scalar = [&] {
+    if (!Alpha || i % 4 != 3) d[i] = static_cast<T>(f(s[i], ops.template at<T>(i, phase)...));
+    if (++phase == P) phase = 0;
+  };
+  bool stream = Stream;
+  if constexpr (Stream) {
+    const std::uintptr_t mis = reinterpret_cast<std::uintptr_t>(d) % simd::kBytes;
+    if (mis % sizeof(T) != 0)
+      stream = false;
+    else
+      for (const int peel = std::min(n, int((simd::kBytes - mis) % simd::kBytes / sizeof(T))); i < peel; ++i) scalar();
   }
+  // After the peel every block starts at the same place in the pixel.
+  using M = decltype(V{} < V{});
+  M colour{};
+  if constexpr (Alpha)
+    for (int j = 0; j < K; ++j) colour[j] = (i + j) % 4 == 3 ? 0 : -1;
+  for (; i + K <= n; i += K) {
+    V r = static_cast<V>(f(load<V>(s + i), ops.template at<V>(i, phase)...));
+    if constexpr (Alpha) r = simd::select<V>(colour, r, load<V>(d + i));
+    if (stream)
+      simd::streamStore(d + i, r);
+    else
+      store(d + i, r);
+    phase = (phase + K) % P;
+  }
+  for (; i < n; ++i) scalar();
 }
 
 // The row of a member of layout L: width pixels.
-template <Lay L, class T, class F, class... Ops>
+template <Lay L, bool Stream = false, class T, class F, class... Ops>
 void mapPixels(const T* s, T* d, int width, F&& f, const Ops&... ops) {
-  mapRow<channelsOf(L), L == Lay::AC4>(s, d, width * channelsOf(L), f, ops...);
+  mapRow<channelsOf(L), L == Lay::AC4, Stream>(s, d, width * channelsOf(L), f, ops...);
 }
 
 // Comparison masks: 255 where f holds in every processed channel of a

@@ -18,15 +18,25 @@
 #pragma once
 
 #include "frame/frame.h"
+#include "move/rows.h"
 #include "point/kernels.h"
 
 namespace pxl::point {
 
 inline bool badRelation(Pxl32s r) { return r != pxlRelLess && r != pxlRelGreater; }
 
+// A destination too large to stay in the cache is written around it, in
+// place as well as not; the choice never changes a byte.
 template <Lay L, class T, class F, class... Ops>
 void thresholdRows(const T* s, int sStep, T* d, int dStep, PxlSize roi, F&& f, const Ops&... ops) {
-  for (int y = 0; y < roi.height; ++y) mapPixels<L>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, ops...);
+  const std::size_t bytes = std::size_t(roi.width) * channelsOf(L) * sizeof(T) * std::size_t(roi.height);
+  if (bytes >= move::kStreamBytes) {
+    for (int y = 0; y < roi.height; ++y)
+      mapPixels<L, true>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, ops...);
+    simd::storeFence();
+  } else {
+    for (int y = 0; y < roi.height; ++y) mapPixels<L>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, ops...);
+  }
 }
 
 // ------------------------------------------------------------ clip
