@@ -107,6 +107,7 @@ void registerCases(const Case (&cases)[N]) {
 // Families and references; main calls each once.
 void registerArith();
 void registerMove();
+void registerPoint();
 void registerBandwidth();
 
 }  // namespace pxlbench

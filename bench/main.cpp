@@ -57,6 +57,7 @@ int main(int argc, char** argv) {
   pxlbench::registerBandwidth();
   pxlbench::registerArith();
   pxlbench::registerMove();
+  pxlbench::registerPoint();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
