@@ -147,10 +147,22 @@ void maskPixels(const T* s, Pxl8u* d, int width, F&& f, const Ops&... ops) {
         const int i = x * Ch + j * K;
         store(block + j * K, simd::convert<B>(f(load<V>(s + i), ops.template at<V>(i, (j * K) % Ch)...)));
       }
-      for (int p = 0; p < K; ++p) {
-        std::int8_t all = -1;
-        for (int c = 0; c < Used; ++c) all &= block[p * Ch + c];
-        d[x + p] = static_cast<Pxl8u>(all);
+      if constexpr (Ch == 4) {
+        // A pixel's four mask bytes are one 32-bit lane; AC4 sets the alpha
+        // byte (the high one on this little-endian target) before testing.
+        using W = Reg<std::int32_t>;
+        constexpr int KW = kLanes<std::int32_t>;
+        for (int j = 0; j < K; j += KW) {
+          W w = load<W>(block + 4 * j);
+          if constexpr (Used == 3) w |= std::int32_t(0xFF000000u);
+          store(d + x + j, simd::convert<simd::Vec<std::int8_t, KW>>(w == -1));
+        }
+      } else {
+        for (int p = 0; p < K; ++p) {
+          std::int8_t all = -1;
+          for (int c = 0; c < Used; ++c) all &= block[p * Ch + c];
+          d[x + p] = static_cast<Pxl8u>(all);
+        }
       }
     }
   }
