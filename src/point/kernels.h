@@ -109,6 +109,8 @@ void mapRow(const T* s, T* d, int n, F&& f, const Ops&... ops) {
   M colour{};
   if constexpr (Alpha)
     for (int j = 0; j < K; ++j) colour[j] = (i + j) % 4 == 3 ? 0 : -1;
+  // Two registers a turn keep the loads of the next block in flight.
+#pragma GCC unroll 2
   for (; i + K <= n; i += K) {
     V r = static_cast<V>(f(load<V>(s + i), ops.template at<V>(i, phase)...));
     if constexpr (Alpha) r = simd::select<V>(colour, r, load<V>(d + i));
@@ -138,6 +140,7 @@ void maskPixels(const T* s, Pxl8u* d, int width, F&& f, const Ops&... ops) {
   constexpr int K = kLanes<T>, Ch = channelsOf(L), Used = processedOf(L);
   using B = simd::Vec<std::int8_t, K>;
   int x = 0;
+#pragma GCC unroll 2
   for (; x + K <= width; x += K) {
     if constexpr (Ch == 1) {
       store(d + x, simd::convert<B>(f(load<V>(s + x), ops.template at<V>(x, 0)...)));
