@@ -111,6 +111,7 @@ void registerCases(const Case (&cases)[N]) {
 void registerArith();
 void registerMove();
 void registerArithMulDiv();
+void registerPoint();
 void registerBandwidth();
 void registerMoveBorder();
 void registerMoveConvert();

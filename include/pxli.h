@@ -1745,6 +1745,898 @@ PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_16u_AP4R(const Pxl16u* const* src, i
 PXL_API PxlStatus PXL_CALL pxliAlphaPremulC_16u_AP4IR(Pxl16u alpha, Pxl16u* const* srcDst,
     int srcDstStep, PxlSize roi);
 
+/* ---- pxliCompare: dst = 255 where src1 (relation) src2 holds in every channel (AC4: the colour ones), else 0; a relation outside 0..4 writes nothing */
+PXL_API PxlStatus PXL_CALL pxliCompare_8u_C1R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_8u_C3R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_8u_C4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_8u_AC4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_16s_C1R(const Pxl16s* src1, int src1Step, const Pxl16s* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_16s_C3R(const Pxl16s* src1, int src1Step, const Pxl16s* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_16s_C4R(const Pxl16s* src1, int src1Step, const Pxl16s* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_16s_AC4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_32f_C1R(const Pxl32f* src1, int src1Step, const Pxl32f* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_32f_C3R(const Pxl32f* src1, int src1Step, const Pxl32f* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_32f_C4R(const Pxl32f* src1, int src1Step, const Pxl32f* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompare_32f_AC4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+
+/* ---- pxliCompareC: dst = 255 where src (relation) value holds in every channel; >= is "not <" and > "not <=" */
+PXL_API PxlStatus PXL_CALL pxliCompareC_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_8u_C3R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_8u_C4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_8u_AC4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_16s_C3R(const Pxl16s* src, int srcStep, const Pxl16s* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_16s_C4R(const Pxl16s* src, int srcStep, const Pxl16s* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_16s_AC4R(const Pxl16s* src, int srcStep,
+    const Pxl16s* value, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_32f_C3R(const Pxl32f* src, int srcStep, const Pxl32f* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_32f_C4R(const Pxl32f* src, int srcStep, const Pxl32f* value,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliCompareC_32f_AC4R(const Pxl32f* src, int srcStep,
+    const Pxl32f* value, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32s relation);
+
+/* ---- pxliCompareEqualEps: dst = 255 where |src1 - src2| <= eps in every channel; eps below 0 or NaN is refused */
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEps_32f_C1R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEps_32f_C3R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEps_32f_C4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEps_32f_AC4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+
+/* ---- pxliCompareEqualEpsC: dst = 255 where |src - value| <= eps in every channel */
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEpsC_32f_C1R(const Pxl32f* src, int srcStep,
+    Pxl32f value, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEpsC_32f_C3R(const Pxl32f* src, int srcStep,
+    const Pxl32f* value, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEpsC_32f_C4R(const Pxl32f* src, int srcStep,
+    const Pxl32f* value, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+PXL_API PxlStatus PXL_CALL pxliCompareEqualEpsC_32f_AC4R(const Pxl32f* src, int srcStep,
+    const Pxl32f* value, Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f eps);
+
+/* ---- pxliAnd: dst = src1 & src2; AC4 leaves the alpha of dst */
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_C1R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_C1IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_C3R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_C3IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_C4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_C4IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_AC4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_8u_AC4IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_C1R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_C1IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_C3R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_C3IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_C4R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_C4IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_AC4R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_16u_AC4IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_C1R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_C1IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_C3R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_C3IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_C4R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_C4IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_AC4R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAnd_32s_AC4IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+
+/* ---- pxliAndC: dst = src & value (one constant per channel) */
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u value, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_C1IR(Pxl8u value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_C3R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_C3IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_C4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_C4IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_AC4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_8u_AC4IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_C1R(const Pxl16u* src, int srcStep, Pxl16u value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_C1IR(Pxl16u value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_C3R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_C3IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_C4R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_C4IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_AC4R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_16u_AC4IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_C1R(const Pxl32s* src, int srcStep, Pxl32s value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_C1IR(Pxl32s value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_C3R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_C3IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_C4R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_C4IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_AC4R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliAndC_32s_AC4IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+
+/* ---- pxliOr: dst = src1 | src2; AC4 leaves the alpha of dst */
+PXL_API PxlStatus PXL_CALL pxliOr_8u_C1R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_C1IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_C3R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_C3IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_C4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_C4IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_AC4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_8u_AC4IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_C1R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_C1IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_C3R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_C3IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_C4R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_C4IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_AC4R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_16u_AC4IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_C1R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_C1IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_C3R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_C3IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_C4R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_C4IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_AC4R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOr_32s_AC4IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+
+/* ---- pxliOrC: dst = src | value (one constant per channel) */
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u value, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_C1IR(Pxl8u value, Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_C3R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_C3IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_C4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_C4IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_AC4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_8u_AC4IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_C1R(const Pxl16u* src, int srcStep, Pxl16u value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_C1IR(Pxl16u value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_C3R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_C3IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_C4R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_C4IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_AC4R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_16u_AC4IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_C1R(const Pxl32s* src, int srcStep, Pxl32s value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_C1IR(Pxl32s value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_C3R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_C3IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_C4R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_C4IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_AC4R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliOrC_32s_AC4IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+
+/* ---- pxliXor: dst = src1 ^ src2; AC4 leaves the alpha of dst */
+PXL_API PxlStatus PXL_CALL pxliXor_8u_C1R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_C1IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_C3R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_C3IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_C4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_C4IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_AC4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_8u_AC4IR(const Pxl8u* src, int srcStep, Pxl8u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_C1R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_C1IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_C3R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_C3IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_C4R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_C4IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_AC4R(const Pxl16u* src1, int src1Step, const Pxl16u* src2,
+    int src2Step, Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_16u_AC4IR(const Pxl16u* src, int srcStep, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_C1R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_C1IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_C3R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_C3IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_C4R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_C4IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_AC4R(const Pxl32s* src1, int src1Step, const Pxl32s* src2,
+    int src2Step, Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXor_32s_AC4IR(const Pxl32s* src, int srcStep, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+
+/* ---- pxliXorC: dst = src ^ value (one constant per channel) */
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u value, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_C1IR(Pxl8u value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_C3R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_C3IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_C4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_C4IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_AC4R(const Pxl8u* src, int srcStep, const Pxl8u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_8u_AC4IR(const Pxl8u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_C1R(const Pxl16u* src, int srcStep, Pxl16u value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_C1IR(Pxl16u value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_C3R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_C3IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_C4R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_C4IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_AC4R(const Pxl16u* src, int srcStep, const Pxl16u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_16u_AC4IR(const Pxl16u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_C1R(const Pxl32s* src, int srcStep, Pxl32s value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_C1IR(Pxl32s value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_C3R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_C3IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_C4R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_C4IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_AC4R(const Pxl32s* src, int srcStep, const Pxl32s* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliXorC_32s_AC4IR(const Pxl32s* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+
+/* ---- pxliNot: dst = ~src */
+PXL_API PxlStatus PXL_CALL pxliNot_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliNot_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+
+/* ---- pxliLShiftC: dst = src << value (a count per channel); counts from the sample width on give 0 */
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_C1R(const Pxl8u* src, int srcStep, Pxl32u value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_C1IR(Pxl32u value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_C3R(const Pxl8u* src, int srcStep, const Pxl32u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_C3IR(const Pxl32u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_C4R(const Pxl8u* src, int srcStep, const Pxl32u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_C4IR(const Pxl32u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_AC4R(const Pxl8u* src, int srcStep, const Pxl32u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_8u_AC4IR(const Pxl32u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_C1R(const Pxl16u* src, int srcStep, Pxl32u value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_C1IR(Pxl32u value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_C3R(const Pxl16u* src, int srcStep, const Pxl32u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_C3IR(const Pxl32u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_C4R(const Pxl16u* src, int srcStep, const Pxl32u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_C4IR(const Pxl32u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_AC4R(const Pxl16u* src, int srcStep, const Pxl32u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_16u_AC4IR(const Pxl32u* value, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_C1R(const Pxl32s* src, int srcStep, Pxl32u value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_C1IR(Pxl32u value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_C3R(const Pxl32s* src, int srcStep, const Pxl32u* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_C3IR(const Pxl32u* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_C4R(const Pxl32s* src, int srcStep, const Pxl32u* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_C4IR(const Pxl32u* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_AC4R(const Pxl32s* src, int srcStep, const Pxl32u* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliLShiftC_32s_AC4IR(const Pxl32u* value, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+
+/* ---- pxliRShiftC: dst = src >> value; arithmetic for signed samples, where counts past 31 act as 31 */
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_C1R(const Pxl8u* src, int srcStep, Pxl32u value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_C1IR(Pxl32u value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_C3R(const Pxl8u* src, int srcStep, const Pxl32u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_C3IR(const Pxl32u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_C4R(const Pxl8u* src, int srcStep, const Pxl32u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_C4IR(const Pxl32u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_AC4R(const Pxl8u* src, int srcStep, const Pxl32u* value,
+    Pxl8u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8u_AC4IR(const Pxl32u* value, Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_C1R(const Pxl8s* src, int srcStep, Pxl32u value,
+    Pxl8s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_C1IR(Pxl32u value, Pxl8s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_C3R(const Pxl8s* src, int srcStep, const Pxl32u* value,
+    Pxl8s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_C3IR(const Pxl32u* value, Pxl8s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_C4R(const Pxl8s* src, int srcStep, const Pxl32u* value,
+    Pxl8s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_C4IR(const Pxl32u* value, Pxl8s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_AC4R(const Pxl8s* src, int srcStep, const Pxl32u* value,
+    Pxl8s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_8s_AC4IR(const Pxl32u* value, Pxl8s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_C1R(const Pxl16u* src, int srcStep, Pxl32u value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_C1IR(Pxl32u value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_C3R(const Pxl16u* src, int srcStep, const Pxl32u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_C3IR(const Pxl32u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_C4R(const Pxl16u* src, int srcStep, const Pxl32u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_C4IR(const Pxl32u* value, Pxl16u* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_AC4R(const Pxl16u* src, int srcStep, const Pxl32u* value,
+    Pxl16u* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16u_AC4IR(const Pxl32u* value, Pxl16u* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_C1R(const Pxl16s* src, int srcStep, Pxl32u value,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_C1IR(Pxl32u value, Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_C3R(const Pxl16s* src, int srcStep, const Pxl32u* value,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_C3IR(const Pxl32u* value, Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_C4R(const Pxl16s* src, int srcStep, const Pxl32u* value,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_C4IR(const Pxl32u* value, Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_AC4R(const Pxl16s* src, int srcStep, const Pxl32u* value,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_16s_AC4IR(const Pxl32u* value, Pxl16s* srcDst,
+    int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_C1R(const Pxl32s* src, int srcStep, Pxl32u value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_C1IR(Pxl32u value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_C3R(const Pxl32s* src, int srcStep, const Pxl32u* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_C3IR(const Pxl32u* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_C4R(const Pxl32s* src, int srcStep, const Pxl32u* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_C4IR(const Pxl32u* value, Pxl32s* srcDst, int srcDstStep,
+    PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_AC4R(const Pxl32s* src, int srcStep, const Pxl32u* value,
+    Pxl32s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_AC4IR(const Pxl32u* value, Pxl32s* srcDst,
+    int srcDstStep, PxlSize roi);
+
+/* ---- pxliThreshold: relation 4: min(src, threshold); 0: max(src, threshold); a NaN sample gives the threshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl8u threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    Pxl8u threshold, Pxl32s relation);
+
+/* ---- pxliThreshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, Pxl32s relation);
+
+/* ---- pxliThreshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl16s threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    Pxl16s threshold, Pxl32s relation);
+
+/* ---- pxliThreshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_16s_AC4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, Pxl32s relation);
+
+/* ---- pxliThreshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    Pxl32f threshold, Pxl32s relation);
+
+/* ---- pxliThreshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, Pxl32s relation);
+
+/* ---- pxliThreshold_GT: min(src, threshold) */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl8u threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    Pxl8u threshold);
+
+/* ---- pxliThreshold_GT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold);
+
+/* ---- pxliThreshold_GT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl16s threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    Pxl16s threshold);
+
+/* ---- pxliThreshold_GT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_16s_AC4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold);
+
+/* ---- pxliThreshold_GT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    Pxl32f threshold);
+
+/* ---- pxliThreshold_GT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GT_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold);
+
+/* ---- pxliThreshold_LT: max(src, threshold) */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl8u threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    Pxl8u threshold);
+
+/* ---- pxliThreshold_LT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold);
+
+/* ---- pxliThreshold_LT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl16s threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    Pxl16s threshold);
+
+/* ---- pxliThreshold_LT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_16s_AC4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold);
+
+/* ---- pxliThreshold_LT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    Pxl32f threshold);
+
+/* ---- pxliThreshold_LT */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LT_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold);
+
+/* ---- pxliThreshold_Val: relation 4: value where src > threshold (NaN kept); 0: value where src < threshold (NaN replaced); the relation is checked first of all */
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl8u threshold, Pxl8u value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    Pxl8u threshold, Pxl8u value, Pxl32s relation);
+
+/* ---- pxliThreshold_Val */
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value, Pxl32s relation);
+
+/* ---- pxliThreshold_Val */
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl16s threshold, Pxl16s value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    Pxl16s threshold, Pxl16s value, Pxl32s relation);
+
+/* ---- pxliThreshold_Val */
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, const Pxl16s* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_16s_AC4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, const Pxl16s* value, Pxl32s relation);
+
+/* ---- pxliThreshold_Val */
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f threshold, Pxl32f value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    Pxl32f threshold, Pxl32f value, Pxl32s relation);
+
+/* ---- pxliThreshold_Val */
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, const Pxl32f* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value, Pxl32s relation);
+PXL_API PxlStatus PXL_CALL pxliThreshold_Val_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, const Pxl32f* value, Pxl32s relation);
+
+/* ---- pxliThreshold_GTVal: value where src > threshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl8u threshold, Pxl8u value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    Pxl8u threshold, Pxl8u value);
+
+/* ---- pxliThreshold_GTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value);
+
+/* ---- pxliThreshold_GTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl16s threshold, Pxl16s value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    Pxl16s threshold, Pxl16s value);
+
+/* ---- pxliThreshold_GTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_C4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_16s_AC4IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+
+/* ---- pxliThreshold_GTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f threshold, Pxl32f value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    Pxl32f threshold, Pxl32f value);
+
+/* ---- pxliThreshold_GTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_C4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_GTVal_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+
+/* ---- pxliThreshold_LTVal: value where src < threshold */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl8u threshold, Pxl8u value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    Pxl8u threshold, Pxl8u value);
+
+/* ---- pxliThreshold_LTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* threshold, const Pxl8u* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* threshold, const Pxl8u* value);
+
+/* ---- pxliThreshold_LTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl16s threshold, Pxl16s value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    Pxl16s threshold, Pxl16s value);
+
+/* ---- pxliThreshold_LTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_C4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_16s_AC4IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl16s* threshold, const Pxl16s* value);
+
+/* ---- pxliThreshold_LTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32f threshold, Pxl32f value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    Pxl32f threshold, Pxl32f value);
+
+/* ---- pxliThreshold_LTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_C4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTVal_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl32f* threshold, const Pxl32f* value);
+
+/* ---- pxliThreshold_LTValGTVal: valueLT below thresholdLT, valueGT above thresholdGT (NaN gives valueLT); thresholdGT below thresholdLT in any channel is refused */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_8u_C1R(const Pxl8u* src, int srcStep,
+    Pxl8u* dst, int dstStep, PxlSize roi, Pxl8u thresholdLT, Pxl8u valueLT, Pxl8u thresholdGT,
+    Pxl8u valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_8u_C1IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, Pxl8u thresholdLT, Pxl8u valueLT, Pxl8u thresholdGT, Pxl8u valueGT);
+
+/* ---- pxliThreshold_LTValGTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_8u_C3R(const Pxl8u* src, int srcStep,
+    Pxl8u* dst, int dstStep, PxlSize roi, const Pxl8u* thresholdLT, const Pxl8u* valueLT,
+    const Pxl8u* thresholdGT, const Pxl8u* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_8u_C3IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl8u* thresholdLT, const Pxl8u* valueLT, const Pxl8u* thresholdGT,
+    const Pxl8u* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_8u_AC4R(const Pxl8u* src, int srcStep,
+    Pxl8u* dst, int dstStep, PxlSize roi, const Pxl8u* thresholdLT, const Pxl8u* valueLT,
+    const Pxl8u* thresholdGT, const Pxl8u* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_8u_AC4IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl8u* thresholdLT, const Pxl8u* valueLT, const Pxl8u* thresholdGT,
+    const Pxl8u* valueGT);
+
+/* ---- pxliThreshold_LTValGTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_16s_C1R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl16s thresholdLT, Pxl16s valueLT, Pxl16s thresholdGT,
+    Pxl16s valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_16s_C1IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, Pxl16s thresholdLT, Pxl16s valueLT, Pxl16s thresholdGT, Pxl16s valueGT);
+
+/* ---- pxliThreshold_LTValGTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_16s_C3R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, const Pxl16s* thresholdLT, const Pxl16s* valueLT,
+    const Pxl16s* thresholdGT, const Pxl16s* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_16s_C3IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl16s* thresholdLT, const Pxl16s* valueLT, const Pxl16s* thresholdGT,
+    const Pxl16s* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_16s_AC4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, const Pxl16s* thresholdLT, const Pxl16s* valueLT,
+    const Pxl16s* thresholdGT, const Pxl16s* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_16s_AC4IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl16s* thresholdLT, const Pxl16s* valueLT, const Pxl16s* thresholdGT,
+    const Pxl16s* valueGT);
+
+/* ---- pxliThreshold_LTValGTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_C1R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, Pxl32f thresholdLT, Pxl32f valueLT, Pxl32f thresholdGT,
+    Pxl32f valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_C1IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, Pxl32f thresholdLT, Pxl32f valueLT, Pxl32f thresholdGT, Pxl32f valueGT);
+
+/* ---- pxliThreshold_LTValGTVal */
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_C3R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, const Pxl32f* thresholdLT, const Pxl32f* valueLT,
+    const Pxl32f* thresholdGT, const Pxl32f* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_C3IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl32f* thresholdLT, const Pxl32f* valueLT, const Pxl32f* thresholdGT,
+    const Pxl32f* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_AC4R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, const Pxl32f* thresholdLT, const Pxl32f* valueLT,
+    const Pxl32f* thresholdGT, const Pxl32f* valueGT);
+PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, const Pxl32f* thresholdLT, const Pxl32f* valueLT, const Pxl32f* thresholdGT,
+    const Pxl32f* valueGT);
+
 #ifdef __cplusplus
 }
 #endif
