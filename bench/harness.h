@@ -113,6 +113,7 @@ void registerMove();
 void registerArithMulDiv();
 void registerPoint();
 void registerBandwidth();
+void registerPointAlpha();
 void registerMoveBorder();
 void registerMoveConvert();
 

@@ -61,6 +61,7 @@ int main(int argc, char** argv) {
   pxlbench::registerMoveConvert();
   pxlbench::registerArithMulDiv();
   pxlbench::registerPoint();
+  pxlbench::registerPointAlpha();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

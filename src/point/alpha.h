@@ -11,6 +11,7 @@
 #pragma once
 
 #include <cstdint>
+#include <type_traits>
 
 #include "frame/frame.h"
 #include "simd/vec.h"
@@ -42,9 +43,21 @@ inline V mulA(V a, V b) {
   return V((t + simd::splat<V>(1) + (t >> bits)) >> bits);
 }
 
+// Sums of two products stay below twice the full alpha, far from the sign
+// bit, so the minimum is taken on signed lanes: the base instruction set has
+// signed 16-bit minima and signed compares, but no unsigned ones.
 template <class T, class V>
 inline V saturated(V x) {
-  return simd::vmin(x, simd::splat<V>(AlphaMath<T>::kFull));
+  if constexpr (simd::kIsVector<V>) {
+    using S = std::make_signed_t<simd::Elem<V>>;
+    using SV = simd::Vec<S, int(sizeof(V) / sizeof(S))>;
+    const SV s = reinterpret_cast<const SV&>(x);
+    const SV full = simd::splat<SV>(S(AlphaMath<T>::kFull));
+    const SV r = s < full ? s : full;
+    return reinterpret_cast<const V&>(r);
+  } else {
+    return x < AlphaMath<T>::kFull ? x : V(AlphaMath<T>::kFull);
+  }
 }
 
 enum AlphaOperator { kOver, kIn, kOut, kAtop, kXor, kPlus };
