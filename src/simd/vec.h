@@ -215,6 +215,28 @@ inline Reg<T> averageUp(Reg<T> a, Reg<T> b) {
     return (Reg<T>)PXL_SAT_OP(avg, epu16)(x, y);
 }
 
+
+// Bytes to 16-bit lanes and back, on whole registers. On AVX2 both steps
+// work within each 128-bit half, so a register taken apart by widenBytes and
+// put together by packBytes keeps its order; only lane-wise operations may
+// come in between.
+inline void widenBytes(Reg<std::uint8_t> v, Reg<std::uint16_t>& lo, Reg<std::uint16_t>& hi) {
+  const RawReg x = (RawReg)v;
+#if defined(__AVX2__)
+  const RawReg z = _mm256_setzero_si256();
+#else
+  const RawReg z = _mm_setzero_si128();
+#endif
+  lo = (Reg<std::uint16_t>)PXL_SAT_OP(unpacklo, epi8)(x, z);
+  hi = (Reg<std::uint16_t>)PXL_SAT_OP(unpackhi, epi8)(x, z);
+}
+
+// Lanes of 0..32767 to bytes, each saturated to 255 (the pack instruction
+// reads its lanes as signed).
+inline Reg<std::uint8_t> packBytes(Reg<std::uint16_t> lo, Reg<std::uint16_t> hi) {
+  return (Reg<std::uint8_t>)PXL_SAT_OP(packus, epi16)((RawReg)lo, (RawReg)hi);
+}
+
 #undef PXL_SAT_OP
 
 }  // namespace pxl::simd
