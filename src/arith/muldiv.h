@@ -65,6 +65,71 @@ struct OpMul {
     return a * b;
   }
 
+  // 8u products on whole registers of 16-bit lanes: 255 * 255 = 65025 fits,
+  // so the product is one low-half multiply, and every path below keeps its
+  // intermediate values in 16 bits. The results are those of the wide lanes
+  // above (the tail still runs them), bit for bit.
+  static constexpr bool kNarrowRun8u = true;
+
+  // Shifts up to 9 round as (p + 2^(s-1) - 1 + odd) >> s: at most
+  // 65025 + 255 + 1. Longer ones would overflow that sum, so they split the
+  // product at the half bit: u = p >> (s-1) is twice the truncated quotient
+  // plus the half bit; it goes up when the bits below the half are not all
+  // zero (sticky) or the quotient is odd, which (u + t) >> 1 does.
+  static constexpr int kShortShift = 9;
+
+  // The rule on products p; every result is below 32768, so the byte pack
+  // saturates it to 255 as the wide rule does.
+  template <Path P, bool Long, class V>
+  static V narrowRule(V p, int s) {
+    const V one = splat<V>(1);
+    if constexpr (P == Path::Zero) {
+      return p - simd::saturating<true, std::uint16_t>(p, splat<V>(255));  // min(p, 255)
+    } else if constexpr (P == Path::One) {
+      return (p + ((p >> 1) & one)) >> 1;
+    } else if constexpr (P == Path::Pos && !Long) {
+      const V half = splat<V>((1 << (s - 1)) - 1);
+      return (p + half + ((p >> s) & one)) >> s;
+    } else if constexpr (P == Path::Pos) {
+      const V below = splat<V>((1 << (s - 1)) - 1);
+      const V u = p >> (s - 1);
+      const V sticky = ((p & below) + below) >> (s - 1);
+      return (u + (sticky | ((u >> 1) & one))) >> 1;
+    } else if constexpr (P == Path::Neg) {
+      // Saturated first, as the wide rule does: 255 << 7 still fits.
+      return V(p - simd::saturating<true, std::uint16_t>(p, splat<V>(255))) << -s;
+    } else {
+      static_assert(P == Path::Bound, "8u has no other path");
+      return V(p != splat<V>(0)) & splat<V>(255);
+    }
+  }
+
+  template <Path P, bool Long, class A>
+  static int narrowLoop(const A& a, const Pxl8u* b, Pxl8u* d, int len, int s) {
+    using B = simd::Reg<Pxl8u>;
+    using V = simd::Reg<std::uint16_t>;
+    constexpr int M = simd::kLanes<Pxl8u>;
+    int i = 0;
+    for (; i + M <= len; i += M) {
+      V al, ah, bl, bh;
+      simd::widenBytes(operandAt<Pxl8u>(a, i), al, ah);
+      simd::widenBytes(simd::load<B>(b + i), bl, bh);
+      simd::store(d + i, simd::packBytes(narrowRule<P, Long>(V(al * bl), s), narrowRule<P, Long>(V(ah * bh), s)));
+    }
+    return i;
+  }
+
+  // a is a row or a register holding the constant in every lane. Returns
+  // the samples done.
+  template <Path P, class A>
+  static int narrowRun(const A& a, const Pxl8u* b, Pxl8u* d, int len, int s) {
+    if constexpr (P == Path::Pos) {
+      return s <= kShortShift ? narrowLoop<P, false>(a, b, d, len, s) : narrowLoop<P, true>(a, b, d, len, s);
+    } else {
+      return narrowLoop<P, false>(a, b, d, len, s);
+    }
+  }
+
   template <Path P, class T>
   static T complexLane(T a, T b, int s) {
     using R = PartOf<T>;

@@ -199,13 +199,22 @@ struct HalvedSumAtOne : std::false_type {};
 template <class Op>
 struct HalvedSumAtOne<Op, std::void_t<decltype(Op::kHalvedSumAtOne)>> : std::bool_constant<Op::kHalvedSumAtOne> {};
 
+// Operations whose exact 8u result fits 16-bit lanes at every path supply
+// narrowRun: whole registers of bytes, widened once to 16 bits.
+template <class Op, class = void>
+struct NarrowRun8u : std::false_type {};
+template <class Op>
+struct NarrowRun8u<Op, std::void_t<decltype(Op::kNarrowRun8u)>> : std::bool_constant<Op::kNarrowRun8u> {};
+
 // Path Zero of 8- and 16-bit types is a plain saturating operation, and the
 // unsigned sum at scale 1 an average: whole registers of narrow lanes, no
 // widening. Returns the samples done; the widened blocks and the tail take
 // the rest.
 template <class Op, Path P, class R, class A>
-inline int saturatingRun(const A& a, const R* b, R* d, int len) {
-  if constexpr (P == Path::Zero && Op::kSaturatingZero && simd::kHasSaturating<R>) {
+inline int saturatingRun(const A& a, const R* b, R* d, int len, int s) {
+  if constexpr (std::is_same_v<R, std::uint8_t> && NarrowRun8u<Op>::value) {
+    return Op::template narrowRun<P>(a, b, d, len, s);
+  } else if constexpr (P == Path::Zero && Op::kSaturatingZero && simd::kHasSaturating<R>) {
     constexpr int M = simd::kLanes<R>;
     int i = 0;
     for (; i + M <= len; i += M)
@@ -227,7 +236,7 @@ inline int saturatingRun(const A& a, const R* b, R* d, int len) {
     }
     return i;
   } else {
-    (void)a, (void)b, (void)d, (void)len;
+    (void)a, (void)b, (void)d, (void)len, (void)s;
     return 0;
   }
 }
@@ -236,7 +245,7 @@ inline int saturatingRun(const A& a, const R* b, R* d, int len) {
 template <class Op, Path P, class R>
 void rowBinary(const R* a, const R* b, R* d, int len, int s) {
   constexpr int N = kBlock<Op, R, P>;
-  int i = saturatingRun<Op, P, R>(a, b, d, len);
+  int i = saturatingRun<Op, P, R>(a, b, d, len, s);
   for (; i + N <= len; i += N) blockBinary<Op, P>(a + i, b + i, d + i, s);
   for (; i < len; ++i) d[i] = lane<Op, P>(a[i], b[i], s);
 }
@@ -269,7 +278,7 @@ void rowConst(const R* src, const Pattern<R, Period>& pat, R* d, int len, int s)
   constexpr int step = N % Period;
   int i = 0, phase = 0;
   if constexpr (Period == 1) {
-    i = saturatingRun<Op, P, R>(splat<simd::Reg<R>>(pat.v[0]), src, d, len);
+    i = saturatingRun<Op, P, R>(splat<simd::Reg<R>>(pat.v[0]), src, d, len, s);
     const WV c = splat<WV>(pat.v[0]);
     for (; i + N <= len; i += N) {
       const WV x = Op::exact(c, simd::convert<WV>(simd::load<NV>(src + i)));

@@ -56,12 +56,23 @@ struct ConvertRule {
   static_assert(!(kFloat<S> && !kFloat<D> && sizeof(D) >= 4 && sizeof(S) == 4),
                 "float cannot hold the int32 limits; convert through double");
 
+  // 8- and 16-bit integers to float: each register of results is computed
+  // from its own narrow lanes (see convertRow).
+  static constexpr bool kByDestRegister = !kFloat<S> && sizeof(S) < 4 && std::is_same_v<D, float>;
+
   template <class V>
   Rebind<D, V> operator()(const V& x) const {
     if constexpr (kFloat<S> && !kFloat<D>) {
       const V c = clampHighThenLow(x, splat<V>(S(std::numeric_limits<D>::min())),
                                    splat<V>(S(std::numeric_limits<D>::max())));
-      return to<D>(simd::roundToInt32(c));
+      if constexpr (sizeof(D) == 1)
+        return simd::packToBytes<D>(simd::roundToInt32(c));
+      else
+        return to<D>(simd::roundToInt32(c));
+    } else if constexpr (kFloat<D> && sizeof(S) < 4) {
+      // Exact in 32-bit integers first: a direct conversion of narrow lanes
+      // to float is one scalar conversion per lane on some levels.
+      return to<D>(simd::widenToInt32(x));
     } else if constexpr (kFloat<D>) {
       return to<D>(x);
     } else {
@@ -96,12 +107,24 @@ inline void putSample(T* p, T v) {
 template <class S, class D>
 inline constexpr int kPairBlock = simd::kBytes / int(std::min(sizeof(S), sizeof(D)));
 
+template <class Rule, class = void>
+struct ByDestRegister : std::false_type {};
+template <class Rule>
+struct ByDestRegister<Rule, std::void_t<decltype(Rule::kByDestRegister)>> : std::bool_constant<Rule::kByDestRegister> {};
+
 // One row of len samples. Rules whose pair has no vector path (Vectorised
 // false) run the scalar lane only; the bytes are the same either way.
+// Widening rules that ask for it take blocks of one destination register:
+// a block of several registers is assembled in memory by the compiler, and
+// the rule's lanes are independent, so the bytes do not depend on the block.
 template <class S, class D, bool Vectorised, class Rule>
 void convertRow(const S* src, D* dst, int len, const Rule& rule) {
   int i = 0;
-  if constexpr (Vectorised) {
+  if constexpr (Vectorised && ByDestRegister<Rule>::value) {
+    constexpr int N = simd::kLanes<D>;
+    using SV = simd::Vec<S, N>;
+    for (; i + N <= len; i += N) simd::store(dst + i, rule(simd::load<SV>(src + i)));
+  } else if constexpr (Vectorised) {
     constexpr int N = kPairBlock<S, D>;
     using SV = simd::Vec<S, N>;
     for (; i + N <= len; i += N) simd::store(dst + i, rule(simd::load<SV>(src + i)));

@@ -215,6 +215,28 @@ inline Reg<T> averageUp(Reg<T> a, Reg<T> b) {
     return (Reg<T>)PXL_SAT_OP(avg, epu16)(x, y);
 }
 
+
+// Bytes to 16-bit lanes and back, on whole registers. On AVX2 both steps
+// work within each 128-bit half, so a register taken apart by widenBytes and
+// put together by packBytes keeps its order; only lane-wise operations may
+// come in between.
+inline void widenBytes(Reg<std::uint8_t> v, Reg<std::uint16_t>& lo, Reg<std::uint16_t>& hi) {
+  const RawReg x = (RawReg)v;
+#if defined(__AVX2__)
+  const RawReg z = _mm256_setzero_si256();
+#else
+  const RawReg z = _mm_setzero_si128();
+#endif
+  lo = (Reg<std::uint16_t>)PXL_SAT_OP(unpacklo, epi8)(x, z);
+  hi = (Reg<std::uint16_t>)PXL_SAT_OP(unpackhi, epi8)(x, z);
+}
+
+// Lanes of 0..32767 to bytes, each saturated to 255 (the pack instruction
+// reads its lanes as signed).
+inline Reg<std::uint8_t> packBytes(Reg<std::uint16_t> lo, Reg<std::uint16_t> hi) {
+  return (Reg<std::uint8_t>)PXL_SAT_OP(packus, epi16)((RawReg)lo, (RawReg)hi);
+}
+
 #undef PXL_SAT_OP
 
 }  // namespace pxl::simd
@@ -401,6 +423,90 @@ inline Rebind<To, V> resize(const V& v) {
       detail::putChunk(out, i * int(sizeof(M)), detail::narrowChunk<M>(lo, hi));
     }
     return resize<To>(out);
+  }
+}
+
+}  // namespace pxl::simd
+
+// 32-bit lanes holding 0..255 (or -128..127) to bytes, in order. On AVX2 the
+// pack instructions work within each 128-bit half: two packs and one
+// permutation of 32-bit groups put whole registers of 32 results in order,
+// with no trip through memory. Other widths and levels take resize.
+namespace pxl::simd {
+
+template <class To, class V>
+inline Rebind<To, V> packToBytes(const V& v) {
+  static_assert(sizeof(To) == 1 && sizeof(Elem<V>) == 4, "32-bit lanes to bytes");
+#if defined(__AVX2__)
+  constexpr int N = kLaneCount<V>;
+  if constexpr (kIsVector<V> && N % 32 == 0) {
+    Rebind<To, V> out;
+    const __m256i order = _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7);
+    for (int i = 0; i < N; i += 32) {
+      auto quarter = [&](int k) {
+        __m256i q;
+        std::memcpy(&q, reinterpret_cast<const char*>(&v) + i * 4 + k * 32, sizeof q);
+        return q;
+      };
+      const __m256i lo = _mm256_packs_epi32(quarter(0), quarter(1)), hi = _mm256_packs_epi32(quarter(2), quarter(3));
+      const __m256i bytes = std::is_unsigned_v<To> ? _mm256_packus_epi16(lo, hi) : _mm256_packs_epi16(lo, hi);
+      const __m256i r = _mm256_permutevar8x32_epi32(bytes, order);
+      std::memcpy(reinterpret_cast<char*>(&out) + i, &r, sizeof r);
+    }
+    return out;
+  }
+#endif
+  return resize<To>(v);
+}
+
+}  // namespace pxl::simd
+
+// Integer lanes of up to 16 bits to int32, for a vector whose result fills
+// exactly one register: the narrow lanes are loaded into the low part of a
+// register and widened there (one instruction on AVX2, unpacks on the
+// baseline level). The compiler's own conversion of such a vector goes lane
+// by lane. Other lane counts take resize.
+namespace pxl::simd {
+
+template <class V>
+inline Rebind<std::int32_t, V> widenToInt32(const V& v) {
+  using From = Elem<V>;
+  if constexpr (kIsVector<V> && sizeof(From) <= 2 && kLaneCount<V> * 4 == kBytes) {
+    __m128i x;
+    if constexpr (sizeof v == 4) {
+      std::int32_t w;
+      std::memcpy(&w, &v, 4);
+      x = _mm_cvtsi32_si128(w);
+    } else if constexpr (sizeof v == 8) {
+      long long w;
+      std::memcpy(&w, &v, 8);
+      x = _mm_cvtsi64_si128(w);
+    } else {
+      std::memcpy(&x, &v, sizeof x);
+    }
+    RawReg r;
+#if defined(__AVX2__)
+    if constexpr (sizeof(From) == 1)
+      r = std::is_unsigned_v<From> ? _mm256_cvtepu8_epi32(x) : _mm256_cvtepi8_epi32(x);
+    else
+      r = std::is_unsigned_v<From> ? _mm256_cvtepu16_epi32(x) : _mm256_cvtepi16_epi32(x);
+#else
+    if constexpr (sizeof(From) == 1) {
+      if constexpr (std::is_unsigned_v<From>) {
+        const __m128i z = _mm_setzero_si128();
+        r = _mm_unpacklo_epi16(_mm_unpacklo_epi8(x, z), z);
+      } else {
+        const __m128i w = _mm_unpacklo_epi8(x, x);
+        r = _mm_srai_epi32(_mm_unpacklo_epi16(w, w), 24);
+      }
+    } else {
+      r = std::is_unsigned_v<From> ? _mm_unpacklo_epi16(x, _mm_setzero_si128())
+                                   : _mm_srai_epi32(_mm_unpacklo_epi16(x, x), 16);
+    }
+#endif
+    return (Rebind<std::int32_t, V>)r;
+  } else {
+    return resize<std::int32_t>(v);
   }
 }
 
