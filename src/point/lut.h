@@ -78,8 +78,9 @@ inline double det3(double a0, double a1, double a2, double b0, double b1, double
 
 // Cramer's rule on the three points other than the origin. Returns false
 // when the system is singular, which happens when two of the four levels
-// coincide (a zero-length interval next to this one); the caller then falls
-// back to the interval's straight line so that no NaN reaches a map.
+// coincide (a zero-length interval next to this one). What such a table
+// means is not otherwise settled; the caller falls back to the interval's
+// straight line so that no NaN or infinity reaches a map.
 template <class V>
 inline bool cubicFor(const V* values, const V* levels, int k, int n, Cubic& out) {
   const int m = cubicFirst(k, n);
@@ -90,6 +91,9 @@ inline bool cubicFor(const V* values, const V* levels, int k, int n, Cubic& out)
     x[j] = double(levels[m + at[j]]) - x0;
     y[j] = double(values[m + at[j]]) - y0;
   }
+  // The system is singular exactly when two of the four levels coincide;
+  // asked directly, since the determinant of large levels is not exact.
+  if (x[0] == 0.0 || x[1] == 0.0 || x[2] == 0.0 || x[0] == x[1] || x[0] == x[2] || x[1] == x[2]) return false;
   const double d = det3(x[0] * x[0] * x[0], x[0] * x[0], x[0], x[1] * x[1] * x[1], x[1] * x[1], x[1],
                         x[2] * x[2] * x[2], x[2] * x[2], x[2]);
   if (d == 0.0 || !std::isfinite(d)) return false;
@@ -228,9 +232,11 @@ struct Prepared32f {
 // One table per channel, 8 samples a turn: each byte indexes its channel's
 // table and the results are assembled for one 8-byte store. C3 turns over
 // 24 bytes so that every byte position keeps its channel. Works in place:
-// each 8 bytes are loaded before they are stored.
+// each 8 bytes are loaded before they are stored. Byte j of the 8-byte
+// word is the j-th sample in memory on the little-endian targets we build.
 template <int C>
 inline void lutRow8u(const Pxl8u* s, Pxl8u* d, int n, const Pxl8u* const* maps) {
+  static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__, "the 8u kernel assembles words little-endian");
   constexpr int kTurn = C == 3 ? 24 : 8;
   int i = 0;
   for (; i + kTurn <= n; i += kTurn) {
