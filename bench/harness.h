@@ -114,5 +114,6 @@ void registerArithMulDiv();
 void registerBandwidth();
 void registerMoveBorder();
 void registerMoveConvert();
+void registerPointLut();
 
 }  // namespace pxlbench

@@ -60,6 +60,7 @@ int main(int argc, char** argv) {
   pxlbench::registerMoveBorder();
   pxlbench::registerMoveConvert();
   pxlbench::registerArithMulDiv();
+  pxlbench::registerPointLut();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

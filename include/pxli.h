@@ -1799,7 +1799,7 @@ PXL_API PxlStatus PXL_CALL pxliLUT_16u_AC4R(const Pxl16u* src, int srcStep, Pxl1
 PXL_API PxlStatus PXL_CALL pxliLUT_16u_AC4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
     const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
 
-/* ---- pxliLUT: values[k] for a sample in [levels[k], levels[k+1]); others unchanged */
+/* ---- pxliLUT */
 PXL_API PxlStatus PXL_CALL pxliLUT_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst, int dstStep,
     PxlSize roi, const Pxl32f* values, const Pxl32f* levels, Pxl32s nLevels);
 PXL_API PxlStatus PXL_CALL pxliLUT_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
@@ -1881,7 +1881,7 @@ PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16u_AC4R(const Pxl16u* src, int srcSte
 PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16u_AC4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
     const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
 
-/* ---- pxliLUT_Linear: values interpolated linearly between levels */
+/* ---- pxliLUT_Linear */
 PXL_API PxlStatus PXL_CALL pxliLUT_Linear_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
     int dstStep, PxlSize roi, const Pxl32f* values, const Pxl32f* levels, Pxl32s nLevels);
 PXL_API PxlStatus PXL_CALL pxliLUT_Linear_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
@@ -1965,7 +1965,7 @@ PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16u_AC4R(const Pxl16u* src, int srcStep
 PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16u_AC4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
     const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
 
-/* ---- pxliLUT_Cubic: cubics through four consecutive levels */
+/* ---- pxliLUT_Cubic */
 PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
     int dstStep, PxlSize roi, const Pxl32f* values, const Pxl32f* levels, Pxl32s nLevels);
 PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,

@@ -19,7 +19,7 @@ for qual, kind, doc in (('', 'Step', 'values[k] for a sample in [levels[k], leve
         per = [(f'const {V}* const*', 'values'), (f'const {V}* const*', 'levels'), ('const Pxl32s*', 'nLevels')]
         FAMILIES += [
             image('LUT', qual=qual, shape='unary', types=types, layouts='C1', desc='R IR', extra=one,
-                  impl=impl, file=FILE, doc=doc),
+                  impl=impl, file=FILE, doc=doc if V == 'Pxl32s' else ''),
             image('LUT', qual=qual, shape='unary', types=types, layouts='C3 C4 AC4', desc='R IR', extra=per,
                   impl=impl, file=FILE),
         ]
