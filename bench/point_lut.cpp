@@ -14,7 +14,7 @@ namespace {
 struct FullMap {
   Pxl32s levels[257];
   Pxl32s values[257];
-  cv::Mat table{1, 256, CV_8U};
+  cv::Mat table = cv::Mat(1, 256, CV_8U);  // not braces: those make a 3-element Mat
   FullMap() {
     for (int k = 0; k <= 256; ++k) {
       levels[k] = k;
