@@ -113,7 +113,9 @@ inline double evalCubic(const Cubic& q, double x) { return q.y0 + q.c * x + q.a 
 // range; a level outside it (which callers are asked not to pass) only
 // shortens the run it bounds. The identity runs below levels[0] and from the
 // last level up are clipped to the map in the same way, so that no table,
-// however ill-formed, makes the builder step outside it.
+// however ill-formed, makes the builder step outside it. They are written
+// last, so that samples below the first level or at or above the last pass
+// unchanged even when the levels in between are out of order.
 template <class T>
 class MapBuilder {
  public:
