@@ -116,5 +116,6 @@ void registerBandwidth();
 void registerPointAlpha();
 void registerMoveBorder();
 void registerMoveConvert();
+void registerPointLut();
 
 }  // namespace pxlbench

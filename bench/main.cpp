@@ -62,6 +62,7 @@ int main(int argc, char** argv) {
   pxlbench::registerArithMulDiv();
   pxlbench::registerPoint();
   pxlbench::registerPointAlpha();
+  pxlbench::registerPointLut();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

@@ -2262,6 +2262,269 @@ PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_AC4R(const Pxl32s* src, int srcStep, 
 PXL_API PxlStatus PXL_CALL pxliRShiftC_32s_AC4IR(const Pxl32u* value, Pxl32s* srcDst,
     int srcDstStep, PxlSize roi);
 
+/* ---- pxliLUT: values[k] for a sample in [levels[k], levels[k+1]); others unchanged */
+PXL_API PxlStatus PXL_CALL pxliLUT_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst, int dstStep,
+    PxlSize roi, const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16u_C1R(const Pxl16u* src, int srcStep, Pxl16u* dst, int dstStep,
+    PxlSize roi, const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16u_C1IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+
+/* ---- pxliLUT */
+PXL_API PxlStatus PXL_CALL pxliLUT_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst, int dstStep,
+    PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst, int dstStep,
+    PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16s_C4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16s_AC4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16u_C3R(const Pxl16u* src, int srcStep, Pxl16u* dst, int dstStep,
+    PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16u_C3IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16u_C4R(const Pxl16u* src, int srcStep, Pxl16u* dst, int dstStep,
+    PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16u_C4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16u_AC4R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_16u_AC4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+
+/* ---- pxliLUT */
+PXL_API PxlStatus PXL_CALL pxliLUT_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst, int dstStep,
+    PxlSize roi, const Pxl32f* values, const Pxl32f* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* values, const Pxl32f* levels, Pxl32s nLevels);
+
+/* ---- pxliLUT */
+PXL_API PxlStatus PXL_CALL pxliLUT_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst, int dstStep,
+    PxlSize roi, const Pxl32f* const* values, const Pxl32f* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* const* values, const Pxl32f* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst, int dstStep,
+    PxlSize roi, const Pxl32f* const* values, const Pxl32f* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_32f_C4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* const* values, const Pxl32f* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* const* values, const Pxl32f* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* const* values, const Pxl32f* const* levels, const Pxl32s* nLevels);
+
+/* ---- pxliLUT_Linear: values interpolated linearly between levels */
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16u_C1R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16u_C1IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+
+/* ---- pxliLUT_Linear */
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16s_C4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16s_AC4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16u_C3R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16u_C3IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16u_C4R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16u_C4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16u_AC4R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_16u_AC4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+
+/* ---- pxliLUT_Linear */
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* values, const Pxl32f* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* values, const Pxl32f* levels, Pxl32s nLevels);
+
+/* ---- pxliLUT_Linear */
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* const* values, const Pxl32f* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* const* values, const Pxl32f* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* const* values, const Pxl32f* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_32f_C4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* const* values, const Pxl32f* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* const* values, const Pxl32f* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Linear_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* const* values, const Pxl32f* const* levels, const Pxl32s* nLevels);
+
+/* ---- pxliLUT_Cubic: cubics through four consecutive levels */
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16u_C1R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16u_C1IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* values, const Pxl32s* levels, Pxl32s nLevels);
+
+/* ---- pxliLUT_Cubic */
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16s_C4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16s_AC4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16u_C3R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16u_C3IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16u_C4R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16u_C4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16u_AC4R(const Pxl16u* src, int srcStep, Pxl16u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* const* values, const Pxl32s* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_16u_AC4IR(Pxl16u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32s* const* values, const Pxl32s* const* levels, const Pxl32s* nLevels);
+
+/* ---- pxliLUT_Cubic */
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* values, const Pxl32f* levels, Pxl32s nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* values, const Pxl32f* levels, Pxl32s nLevels);
+
+/* ---- pxliLUT_Cubic */
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* const* values, const Pxl32f* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* const* values, const Pxl32f* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* const* values, const Pxl32f* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_32f_C4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* const* values, const Pxl32f* const* levels, const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* const* values, const Pxl32f* const* levels,
+    const Pxl32s* nLevels);
+PXL_API PxlStatus PXL_CALL pxliLUT_Cubic_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl32f* const* values, const Pxl32f* const* levels, const Pxl32s* nLevels);
+
+/* ---- pxliLUTPalette: table[src & ((1 << nBitSize) - 1)], one table entry per pixel */
+PXL_API PxlStatus PXL_CALL pxliLUTPalette_8u24u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* table, int nBitSize);
+
+/* ---- pxliLUTPalette */
+PXL_API PxlStatus PXL_CALL pxliLUTPalette_8u32u_C1R(const Pxl8u* src, int srcStep, Pxl32u* dst,
+    int dstStep, PxlSize roi, const Pxl32u* table, int nBitSize);
+
+/* ---- pxliLUTPalette */
+PXL_API PxlStatus PXL_CALL pxliLUTPalette_16u8u_C1R(const Pxl16u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* table, int nBitSize);
+
+/* ---- pxliLUTPalette */
+PXL_API PxlStatus PXL_CALL pxliLUTPalette_16u24u_C1R(const Pxl16u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* table, int nBitSize);
+
+/* ---- pxliLUTPalette */
+PXL_API PxlStatus PXL_CALL pxliLUTPalette_16u32u_C1R(const Pxl16u* src, int srcStep, Pxl32u* dst,
+    int dstStep, PxlSize roi, const Pxl32u* table, int nBitSize);
+
 /* ---- pxliThreshold: relation 4: min(src, threshold); 0: max(src, threshold); a NaN sample gives the threshold */
 PXL_API PxlStatus PXL_CALL pxliThreshold_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
     int dstStep, PxlSize roi, Pxl8u threshold, Pxl32s relation);
