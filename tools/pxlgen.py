@@ -27,9 +27,9 @@ def load_registry():
     for fn in sorted(os.listdir(regdir)):
         if not fn.endswith('.py'):
             continue
-        spec = importlib.util.spec_from_file_location('reg_' + fn[:-3], os.path.join(regdir, fn))
-        mod = importlib.util.module_from_spec(spec)
-        spec.loader.exec_module(mod)
+        loader = importlib.util.spec_from_file_location('reg_' + fn[:-3], os.path.join(regdir, fn))
+        mod = importlib.util.module_from_spec(loader)
+        loader.loader.exec_module(mod)
         fams.extend(mod.FAMILIES)
     return fams
 
