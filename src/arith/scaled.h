@@ -277,11 +277,6 @@ PxlStatus imageConst(ValueArg<T, L> value, T* srcDst, int srcDstStep, PxlSize ro
 
 // ------------------------------------------------------------ vectors
 
-template <class T>
-inline PxlStatus vectorZero(T* dst, int length) {
-  std::fill(dst, dst + length, T{});
-  return pxlStsOk;
-}
 
 template <class Op, class T>
 PxlStatus vectorBinary(const T* src1, const T* src2, T* dst, int length, int scale = 0) {
@@ -289,7 +284,7 @@ PxlStatus vectorBinary(const T* src1, const T* src2, T* dst, int length, int sca
   if (anyNull(src1, src2, dst)) return pxlStsNullPtr;
   if (length < 1) return pxlStsSize;
   const Path path = scalePath<Op, T>(scale);
-  if (path == Path::Above) return vectorZero(dst, length);
+  if (path == Path::Above) return move::vectorZero(dst, length);
   withPath<R>(path, [&](auto pc) {
     constexpr Path P = decltype(pc)::value;
     if constexpr (kPerSample<Op, T>) {
@@ -315,7 +310,7 @@ PxlStatus vectorConst(const T* src, T value, T* dst, int length, int scale = 0) 
   if (anyNull(src, dst)) return pxlStsNullPtr;
   if (length < 1) return pxlStsSize;
   const Path path = scalePath<Op, T>(scale);
-  if (path == Path::Above) return vectorZero(dst, length);
+  if (path == Path::Above) return move::vectorZero(dst, length);
   withPath<R>(path, [&](auto pc) {
     constexpr Path P = decltype(pc)::value;
     if constexpr (kPerSample<Op, T>) {

@@ -96,4 +96,27 @@ PxlStatus setMasked(V value, T* dst, int dstStep, PxlSize roi, const Pxl8u* mask
   return pxlStsOk;
 }
 
+// Vector fills: pxlsSet, pxlsZero, and the arithmetic's results fixed by
+// the scale.
+inline PxlStatus checkVector(bool null, int length) {
+  if (null) return pxlStsNullPtr;
+  return length < 1 ? pxlStsSize : pxlStsOk;
+}
+
+template <class T>
+PxlStatus vectorSet(T value, T* dst, int length) {
+  if (PxlStatus st = checkVector(dst == nullptr, length)) return st;
+  const FillPattern<int(sizeof(T))> pat(&value);
+  const std::size_t n = std::size_t(length) * sizeof(T);
+  const bool stream = n >= kStreamBytes;
+  fillRow(reinterpret_cast<std::uint8_t*>(dst), pat, n, stream);
+  if (stream) simd::storeFence();
+  return pxlStsOk;
+}
+
+template <class T>
+PxlStatus vectorZero(T* dst, int length) {
+  return vectorSet(T{}, dst, length);
+}
+
 }  // namespace pxl::move

@@ -102,7 +102,7 @@ struct Operand {
 // Walks n lanes of one row: blocks of whole registers of wide lanes, then
 // single lanes, through the same rule(x1, x2, a1, a2, isAlpha).
 template <class T, AlphaFrom F, AlphaLanes K, class Rule>
-void alphaLanes(const Operand<T>& o1, const Operand<T>& o2, T* d, int n, Rule&& rule) {
+void alphaLanes(const Operand<T>& o1, const Operand<T>& o2, T* d, int n, Rule rule) {
   using W = typename AlphaMath<T>::W;
   constexpr int N = simd::kLanes<W>;
   using V = simd::Vec<W, N>;
@@ -124,11 +124,14 @@ void alphaLanes(const Operand<T>& o1, const Operand<T>& o2, T* d, int n, Rule&& 
     else if constexpr (F == AlphaFrom::Plane) return simd::convert<V>(simd::load<NV>(o.alphaRow + i));
     else return x;
   };
+  // Operands by value: the loop then keeps their pointers and constants in
+  // registers instead of reloading them after every store through d.
+  const Operand<T> p1 = o1, p2 = o2;
   int i = 0;
   for (; i + N <= n; i += N) {
-    const V x1 = simd::convert<V>(simd::load<NV>(o1.x + i));
-    const V x2 = simd::convert<V>(simd::load<NV>(o2.x + i));
-    const V r = rule(x1, x2, alphaOf(o1, x1, i), alphaOf(o2, x2, i), isAlpha);
+    const V x1 = simd::convert<V>(simd::load<NV>(p1.x + i));
+    const V x2 = simd::convert<V>(simd::load<NV>(p2.x + i));
+    const V r = rule(x1, x2, alphaOf(p1, x1, i), alphaOf(p2, x2, i), isAlpha);
     simd::store(d + i, simd::convert<NV>(r));
   }
   auto alphaAt = [&](const Operand<T>& o, int j) -> W {
@@ -145,13 +148,12 @@ void alphaLanes(const Operand<T>& o1, const Operand<T>& o2, T* d, int n, Rule&& 
 
 // The composition rule of one operator: colours premultiplied unless they
 // already are, alpha lanes as p = a.
-template <class T, int O, bool AlphaOnly>
+template <class T, int O, bool AlphaOnly, bool Premultiplied>
 struct ComposeRule {
-  bool premultiplied;
   template <class V, class M>
   V operator()(V x1, V x2, V a1, V a2, M isAlpha) const {
-    V p1 = premultiplied ? x1 : mulA<T>(x1, a1);
-    V p2 = premultiplied ? x2 : mulA<T>(x2, a2);
+    V p1 = x1, p2 = x2;
+    if constexpr (!Premultiplied) p1 = mulA<T>(x1, a1), p2 = mulA<T>(x2, a2);
     p1 = simd::select<V>(isAlpha, a1, p1);
     p2 = simd::select<V>(isAlpha, a2, p2);
     return compose<T, O, AlphaOnly>(p1, p2, a1, a2);
@@ -167,18 +169,28 @@ struct PremulRule {
   }
 };
 
-// Calls f with the operator as a compile-time constant; codes 6 to 11 are
-// the same operators on premultiplied colours.
+// Calls f with the operator and whether colours are premultiplied (codes 6
+// to 11 are the same operators on premultiplied colours) as compile-time
+// constants, so that neither is decided inside a row.
+template <bool Pre, class F>
+inline void withOperatorOf(int op, F&& f) {
+  using P = std::bool_constant<Pre>;
+  switch (op) {
+    case kOver: f(std::integral_constant<int, kOver>{}, P{}); break;
+    case kIn: f(std::integral_constant<int, kIn>{}, P{}); break;
+    case kOut: f(std::integral_constant<int, kOut>{}, P{}); break;
+    case kAtop: f(std::integral_constant<int, kAtop>{}, P{}); break;
+    case kXor: f(std::integral_constant<int, kXor>{}, P{}); break;
+    default: f(std::integral_constant<int, kPlus>{}, P{}); break;
+  }
+}
+
 template <class F>
 inline void withOperator(int code, F&& f) {
-  switch (code % 6) {
-    case kOver: f(std::integral_constant<int, kOver>{}); break;
-    case kIn: f(std::integral_constant<int, kIn>{}); break;
-    case kOut: f(std::integral_constant<int, kOut>{}); break;
-    case kAtop: f(std::integral_constant<int, kAtop>{}); break;
-    case kXor: f(std::integral_constant<int, kXor>{}); break;
-    default: f(std::integral_constant<int, kPlus>{}); break;
-  }
+  if (code >= 6)
+    withOperatorOf<true>(code - 6, f);
+  else
+    withOperatorOf<false>(code, f);
 }
 
 }  // namespace pxl::point

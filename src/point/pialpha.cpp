@@ -48,10 +48,10 @@ template <class T, AlphaLay L, class S, class D>
 PxlStatus alphaComp(S src1, int src1Step, S src2, int src2Step, D dst, int dstStep, PxlSize roi, int alphaType) {
   if (PxlStatus st = checkAlpha<L>(roi, src1, src2, dst)) return st;
   if (badOperator(alphaType)) return pxlStsAlphaOp;
-  const bool premultiplied = alphaType >= 6;
-  withOperator(alphaType, [&](auto op) {
+  withOperator(alphaType, [&](auto op, auto pre) {
     constexpr int O = decltype(op)::value;
-    const ComposeRule<T, O, false> rule{premultiplied};
+    constexpr bool Pre = decltype(pre)::value;
+    const ComposeRule<T, O, false, Pre> rule;
     for (int y = 0; y < roi.height; ++y) {
       if constexpr (L == AlphaLay::AP4) {
         const T* a1 = planeRow(src1, 3, src1Step, y);
@@ -66,7 +66,7 @@ PxlStatus alphaComp(S src1, int src1Step, S src2, int src2Step, D dst, int dstSt
         alphaLanes<T, AlphaFrom::Self, AlphaLanes::All>({rowAt(src1, src1Step, y), nullptr, 0},
                                                         {rowAt(src2, src2Step, y), nullptr, 0},
                                                         rowAt(dst, dstStep, y), roi.width,
-                                                        ComposeRule<T, O, true>{premultiplied});
+                                                        ComposeRule<T, O, true, Pre>{});
       } else {
         alphaLanes<T, AlphaFrom::Pixel, AlphaLanes::Fourth>({rowAt(src1, src1Step, y), nullptr, 0},
                                                             {rowAt(src2, src2Step, y), nullptr, 0},
@@ -84,10 +84,10 @@ PxlStatus alphaCompC(S src1, int src1Step, T alpha1, S src2, int src2Step, T alp
                      PxlSize roi, int alphaType) {
   if (PxlStatus st = checkAlpha<L>(roi, src1, src2, dst)) return st;
   if (badOperator(alphaType)) return pxlStsAlphaOp;
-  const bool premultiplied = alphaType >= 6;
-  withOperator(alphaType, [&](auto op) {
+  withOperator(alphaType, [&](auto op, auto pre) {
     constexpr int O = decltype(op)::value;
-    const ComposeRule<T, O, false> rule{premultiplied};
+    constexpr bool Pre = decltype(pre)::value;
+    const ComposeRule<T, O, false, Pre> rule;
     for (int y = 0; y < roi.height; ++y) {
       if constexpr (L == AlphaLay::AP4) {
         for (int k = 0; k < 4; ++k) {
