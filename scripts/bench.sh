@@ -3,24 +3,33 @@
 # BENCHMARKS.md from its JSON output.
 #
 # Environment (all optional):
-#   PXL_ISA                 instruction level of the library: baseline (default) or avx2
+#   PXL_ISA                 instruction level of the library: baseline or avx2; the default
+#                           is the highest of these that this processor runs, since OpenCV
+#                           too picks its code paths for the processor it runs on
 #   PXL_BENCH_MIN_TIME      seconds per repetition of each benchmark (default 0.1)
 #   PXL_BENCH_REPETITIONS   repetitions within one run of the suite (default 3)
 #   PXL_BENCH_RUNS          runs of the whole suite; the table shows the median (default 5)
 #   PXL_BENCH_QUIET_WAIT    at most this many seconds to wait for an idle machine (default 300)
 #   PXL_BENCH_FILTER        regular expression of the benchmarks to run (default all)
+#   PXL_BENCH_OUT           the table to write (default BENCHMARKS.md)
 set -euo pipefail
 
 root=$(cd "$(dirname "$0")/.." && pwd)
 cd "$root"
 
-isa=${PXL_ISA:-baseline}
+if [ -z "${PXL_ISA:-}" ]; then
+  isa=baseline
+  grep -qw avx2 /proc/cpuinfo && grep -qw fma /proc/cpuinfo && grep -qw bmi2 /proc/cpuinfo && isa=avx2
+else
+  isa=$PXL_ISA
+fi
+out=${PXL_BENCH_OUT:-BENCHMARKS.md}
 min_time=${PXL_BENCH_MIN_TIME:-0.1}
 reps=${PXL_BENCH_REPETITIONS:-3}
 runs=${PXL_BENCH_RUNS:-5}
 quiet_wait=${PXL_BENCH_QUIET_WAIT:-300}
 filter=${PXL_BENCH_FILTER:-.}
-build=build-bench
+build=build-bench-$isa
 stats=$build/pxl_bench.stats
 
 # ---------------------------------------------------------------- packages
@@ -110,6 +119,5 @@ awk -v b0="$busy0" -v b1="$busy1" -v st0="$steal0" -v st1="$steal1" -v hz="$hz" 
   }' >"$stats"
 
 # ---------------------------------------------------------------- table
-command="scripts/bench.sh"
-[ "$isa" = baseline ] || command="PXL_ISA=$isa $command"
-python3 scripts/bench_table.py "${jsons[@]}" --out BENCHMARKS.md --command "$command" --run-stats "$stats"
+command="PXL_ISA=$isa scripts/bench.sh"
+python3 scripts/bench_table.py "${jsons[@]}" --out "$out" --command "$command" --run-stats "$stats"
