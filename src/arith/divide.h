@@ -173,28 +173,42 @@ inline float divSingle(float n, float d, bool& zero) {
   return std::numeric_limits<float>::quiet_NaN();
 }
 
-// One group of G samples: G of 8 and 4 in registers, 2 and 1 lane by lane
-// (the reciprocal instruction gives the same value in every lane width).
+// A group with a zero divisor, sample by sample. Kept out of line: real
+// data rarely has one, and the block loop stays small without it.
+template <int G>
+[[gnu::noinline]] void divGroupWithZero(const float* den, const float* num, float* out, bool& zero) {
+  for (int k = 0; k < G; ++k) out[k] = divSingle(num[k], den[k], zero);
+}
+
+// One group of G samples: G of 8 and 4 in registers, with one test of the
+// whole group for a zero divisor; 2 and 1 lane by lane (the reciprocal
+// instruction gives the same value in every lane width).
 template <int G>
 inline void divGroup(const float* den, const float* num, float* out, bool& zero) {
-  bool any = false;
-  for (int k = 0; k < G; ++k) any |= den[k] == 0.0f;
-  if (any) {
-    for (int k = 0; k < G; ++k) out[k] = divSingle(num[k], den[k], zero);
-    return;
-  }
-  if constexpr (G == 8) {
+  if constexpr (G == 4) {
+    const F4 d = simd::load<F4>(den);
+    if (!simd::anyLane(d == 0.0f)) return simd::store(out, refinedQuotient(simd::load<F4>(num), d));
+  } else if constexpr (G == 8) {
 #if defined(__AVX__)
-    simd::store(out, refinedQuotient(simd::load<F8>(num), simd::load<F8>(den)));
+    const F8 d = simd::load<F8>(den);
+    if (!simd::anyLane(d == 0.0f)) return simd::store(out, refinedQuotient(simd::load<F8>(num), d));
 #else
-    simd::store(out, refinedQuotient(simd::load<F4>(num), simd::load<F4>(den)));
-    simd::store(out + 4, refinedQuotient(simd::load<F4>(num + 4), simd::load<F4>(den + 4)));
+    const F4 d0 = simd::load<F4>(den), d1 = simd::load<F4>(den + 4);
+    if (!simd::anyLane((d0 == 0.0f) | (d1 == 0.0f))) {
+      simd::store(out, refinedQuotient(simd::load<F4>(num), d0));
+      simd::store(out + 4, refinedQuotient(simd::load<F4>(num + 4), d1));
+      return;
+    }
 #endif
-  } else if constexpr (G == 4) {
-    simd::store(out, refinedQuotient(simd::load<F4>(num), simd::load<F4>(den)));
   } else {
-    for (int k = 0; k < G; ++k) out[k] = refinedQuotient(num[k], den[k]);
+    bool any = false;
+    for (int k = 0; k < G; ++k) any |= den[k] == 0.0f;
+    if (!any) {
+      for (int k = 0; k < G; ++k) out[k] = refinedQuotient(num[k], den[k]);
+      return;
+    }
   }
+  divGroupWithZero<G>(den, num, out, zero);
 }
 
 // The group that starts at out + i.

@@ -511,3 +511,26 @@ inline Rebind<std::int32_t, V> widenToInt32(const V& v) {
 }
 
 }  // namespace pxl::simd
+
+// Whether any lane of a comparison result is set: one byte mask a register,
+// so that a rare case can be tested for a whole block with one branch.
+namespace pxl::simd {
+
+template <class M>
+inline bool anyLane(const M& m) {
+  if constexpr (!kIsVector<M>) {
+    return m != 0;
+#if defined(__AVX2__)
+  } else if constexpr (sizeof(M) == 32) {
+    __m256i r;
+    std::memcpy(&r, &m, sizeof r);
+    return _mm256_movemask_epi8(r) != 0;
+#endif
+  } else {
+    int bits = 0;
+    for (int off = 0; off < int(sizeof(M)); off += 16) bits |= _mm_movemask_epi8(detail::chunkAt(m, off));
+    return bits != 0;
+  }
+}
+
+}  // namespace pxl::simd
