@@ -55,11 +55,52 @@ struct Block {
   }
 };
 
+#if defined(__AVX2__)
+// 32-bit units on 32-byte registers: an 8 x 8 block. Crossing the two
+// 128-bit halves of a register is the costly shuffle, so the load puts it
+// where it is free: register i holds row i in its low half and row i + 4 in
+// its high half (columns 0-3 in registers 0-3, columns 4-7 in 4-7). Then a
+// 4 x 4 transpose within each half leaves destination row c in register c.
+struct Block8x32 {
+  static constexpr int K = 8;
+  using V = __m256;
+
+  template <class T>
+  static void load(V (&r)[K], const T* p, int step) {
+    for (int i = 0; i < 4; ++i) {
+      const auto* lo = reinterpret_cast<const float*>(rowAt(p, step, i));
+      const auto* hi = reinterpret_cast<const float*>(rowAt(p, step, i + 4));
+      r[i] = _mm256_insertf128_ps(_mm256_castps128_ps256(_mm_loadu_ps(lo)), _mm_loadu_ps(hi), 1);
+      r[i + 4] = _mm256_insertf128_ps(_mm256_castps128_ps256(_mm_loadu_ps(lo + 4)), _mm_loadu_ps(hi + 4), 1);
+    }
+  }
+  static void transpose4(V* r) {
+    const V t0 = _mm256_unpacklo_ps(r[0], r[1]), t1 = _mm256_unpackhi_ps(r[0], r[1]);
+    const V t2 = _mm256_unpacklo_ps(r[2], r[3]), t3 = _mm256_unpackhi_ps(r[2], r[3]);
+    r[0] = _mm256_shuffle_ps(t0, t2, 0x44), r[1] = _mm256_shuffle_ps(t0, t2, 0xEE);
+    r[2] = _mm256_shuffle_ps(t1, t3, 0x44), r[3] = _mm256_shuffle_ps(t1, t3, 0xEE);
+  }
+  static void transpose(V (&r)[K]) {
+    transpose4(r);
+    transpose4(r + 4);
+  }
+  template <class T>
+  static void store(T* p, int step, const V (&r)[K]) {
+    for (int i = 0; i < K; ++i) _mm256_storeu_ps(reinterpret_cast<float*>(rowAt(p, step, i)), r[i]);
+  }
+};
+template <class U>
+using BlockOf = std::conditional_t<sizeof(U) == 4, Block8x32, Block<U>>;
+#else
+template <class U>
+using BlockOf = Block<U>;
+#endif
+
 // Pixel units move in blocks of K; a pixel that is not a lane in blocks of 1.
 template <class P>
 constexpr int blockOf() {
   if constexpr (P::kLane) {
-    return Block<typename P::Unit>::K;
+    return BlockOf<typename P::Unit>::K;
   } else {
     return 1;
   }
@@ -74,7 +115,7 @@ void transposeTile(const T* src, int srcStep, T* dst, int dstStep, int y0, int y
   // Block-covered rows [y0, yb) and columns [x0, xb); none without blocks.
   const int yb = K > 1 ? y0 + (y1 - y0) / K * K : y0, xb = K > 1 ? x0 + (x1 - x0) / K * K : x0;
   if constexpr (K > 1) {
-    using B = Block<typename P::Unit>;
+    using B = BlockOf<typename P::Unit>;
     // Blocks go in squares of one cache line's width, so that the lines a
     // square reads and writes are all used up before it moves on; with
     // steps of a power of two, the rows of a whole tile would fight over a
@@ -111,7 +152,7 @@ void exchangeTile(T* img, int step, int y0, int y1, int x0, int x1) {
   const int yb = K > 1 ? y0 + (y1 - y0) / K * K : y0, xb = K > 1 ? x0 + (x1 - x0) / K * K : x0;
   auto px = [&](int y, int x) { return P::at(rowAt(img, step, y), x); };
   if constexpr (K > 1) {
-    using B = Block<typename P::Unit>;
+    using B = BlockOf<typename P::Unit>;
     typename B::V a[K], b[K];
     for (int y = y0; y < yb; y += K)
       for (int x = std::max(x0, y); x < xb; x += K) {
@@ -135,13 +176,15 @@ void exchangeTile(T* img, int step, int y0, int y1, int x0, int x1) {
 }  // namespace
 
 // Steps are never examined. The tile edge is the smallest of the two sides
-// and 64.
+// and 64 pixels, 32 for pixels of 4 bytes or more: with row steps of a
+// power of two the rows of a tile share few cache sets, and a tile of 64
+// rows of wide pixels no longer stays in the first-level cache.
 template <class T, Lay L>
 PxlStatus transpose(const T* src, int srcStep, T* dst, int dstStep, PxlSize roi) {
   if (anyNull(src, dst)) return pxlStsNullPtr;
   if (badSize(roi)) return pxlStsSize;
   const int w = roi.width, h = roi.height;
-  const int tile = std::min({w, h, 64});
+  const int tile = std::min({w, h, sizeof(T) * channelsOf(L) >= 4 ? 32 : 64});
   for (int ty = 0; ty < h; ty += tile)
     for (int tx = 0; tx < w; tx += tile)
       transposeTile<T, L>(src, srcStep, dst, dstStep, ty, std::min(ty + tile, h), tx, std::min(tx + tile, w));
