@@ -62,7 +62,13 @@ struct ConvertRule {
 
   template <class V>
   Rebind<D, V> operator()(const V& x) const {
-    if constexpr (kFloat<S> && !kFloat<D>) {
+    if constexpr (kFloat<S> && !kFloat<D> && sizeof(D) == 1 && simd::kIsVector<V>) {
+      // Bytes come out of saturating packs, which already hold every
+      // integer below the lower limit to it, as they do the INT_MIN that the
+      // conversion gives beyond the int32 range; so only the upper limit is
+      // needed, and it also turns a NaN into the upper limit as in the lanes.
+      return simd::packToBytes<D>(simd::roundToInt32(simd::vmin(x, splat<V>(S(std::numeric_limits<D>::max())))));
+    } else if constexpr (kFloat<S> && !kFloat<D>) {
       const V c = clampHighThenLow(x, splat<V>(S(std::numeric_limits<D>::min())),
                                    splat<V>(S(std::numeric_limits<D>::max())));
       if constexpr (sizeof(D) == 1)
