@@ -139,6 +139,27 @@ TEST(Logic, EveryMemberFollowsItsRuleAtEveryLengthOffsetAndCount) {
   EXPECT_EQ(members, (6 * 3 + 1 + 3 + 5) * 4 * 2);
 }
 
+// Destinations past the cache's share are written with streaming stores
+// after a scalar run up to a register boundary: the same bytes, alpha too.
+TEST(Logic, LargeImagesGiveTheSameBytes) {
+  std::mt19937 rng(4302);
+  const std::pair<const char*, int> big[] = {{"pxliAnd_8u_C1R", 4100},
+                                             {"pxliXorC_8u_AC4IR", 1030},
+                                             {"pxliOrC_32s_C3R", 700},
+                                             {"pxliRShiftC_16s_C4IR", 1030}};
+  int ran = 0;
+  for (const SweepEntry& e : kSweepTable) {
+    Member m;
+    if (!parse(e, m)) continue;
+    for (const auto& b : big)
+      if (std::string(e.name) == b.first) {
+        runTrial(m, b.second, 2051, rng);
+        ++ran;
+      }
+  }
+  EXPECT_EQ(ran, 4);
+}
+
 // The cases where a decision, not arithmetic, fixes the result.
 TEST(Logic, CountsAtAndBeyondTheWidth) {
   TestImage im(9, 2, 2, 4, 6, Place::Back, 7);

@@ -14,6 +14,7 @@
 #include <type_traits>
 
 #include "frame/frame.h"
+#include "move/rows.h"
 #include "simd/vec.h"
 
 namespace pxl::point {
@@ -123,10 +124,38 @@ void mapRow(const T* s, T* d, int n, F&& f, const Ops&... ops) {
   for (; i < n; ++i) scalar();
 }
 
+// Calls row(y, stream) for every row, stream a compile-time truth value: a
+// destination too large to stay in the cache is written around it, in
+// place as well as not, and fenced once at the end. The choice never
+// changes a byte.
+template <class RowFn>
+void streamedRows(std::size_t destBytes, int height, RowFn&& row) {
+  if (destBytes >= move::kStreamBytes) {
+    for (int y = 0; y < height; ++y) row(y, std::true_type{});
+    simd::storeFence();
+  } else {
+    for (int y = 0; y < height; ++y) row(y, std::false_type{});
+  }
+}
+
+// Bytes of the destination of a member of layout L.
+template <Lay L, class T>
+std::size_t imageBytes(PxlSize roi) {
+  return std::size_t(roi.width) * channelsOf(L) * sizeof(T) * std::size_t(roi.height);
+}
+
 // The row of a member of layout L: width pixels.
 template <Lay L, bool Stream = false, class T, class F, class... Ops>
 void mapPixels(const T* s, T* d, int width, F&& f, const Ops&... ops) {
   mapRow<channelsOf(L), L == Lay::AC4, Stream>(s, d, width * channelsOf(L), f, ops...);
+}
+
+// mapPixels over every row of an image.
+template <Lay L, class T, class F, class... Ops>
+void mapImage(const T* s, int sStep, T* d, int dStep, PxlSize roi, F&& f, const Ops&... ops) {
+  streamedRows(imageBytes<L, T>(roi), roi.height, [&](int y, auto stream) {
+    mapPixels<L, decltype(stream)::value>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, ops...);
+  });
 }
 
 // Comparison masks: 255 where f holds in every processed channel of a

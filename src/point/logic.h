@@ -46,9 +46,10 @@ PxlStatus logicImages(const T* a, int aStep, const T* b, int bStep, T* d, int dS
   if (PxlStatus st = checkShape<Order::NTS>(roi, aStep, bStep, dStep)) return st;
   // No constant: all channels are alike, only AC4's alpha is special.
   const auto f = [](auto x, auto y) { return Op::apply(x, y); };
-  for (int y = 0; y < roi.height; ++y)
-    mapRow<1, L == Lay::AC4>(rowAt(a, aStep, y), rowAt(d, dStep, y), roi.width * channelsOf(L), f,
-                             Row<T>{rowAt(b, bStep, y)});
+  streamedRows(imageBytes<L, T>(roi), roi.height, [&](int y, auto stream) {
+    mapRow<1, L == Lay::AC4, decltype(stream)::value>(rowAt(a, aStep, y), rowAt(d, dStep, y),
+                                                      roi.width * channelsOf(L), f, Row<T>{rowAt(b, bStep, y)});
+  });
   return pxlStsOk;
 }
 
@@ -70,7 +71,7 @@ PxlStatus logicConstMember(const T* s, int sStep, const T* vals, T* d, int dStep
   }
   const auto k = constsOf<T, L>(vals);
   const auto f = [](auto x, auto c) { return Op::apply(x, c); };
-  for (int y = 0; y < roi.height; ++y) mapPixels<L>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, k);
+  mapImage<L>(s, sStep, d, dStep, roi, f, k);
   return pxlStsOk;
 }
 
@@ -137,7 +138,7 @@ PxlStatus shiftUniform(const T* s, int sStep, Pxl32u n, T* d, int dStep, PxlSize
   if (!Sh::kSaturatesAtSign && n >= Sh::kWidth) return move::setImageUniform<T, L>(T(0), d, dStep, roi);
   const int c = int(std::min<Pxl32u>(n, Sh::kWidth - 1));
   const auto f = [c](auto x) { return Sh::apply(x, c); };
-  for (int y = 0; y < roi.height; ++y) mapPixels<L>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f);
+  mapImage<L>(s, sStep, d, dStep, roi, f);
   return pxlStsOk;
 }
 
@@ -162,8 +163,7 @@ PxlStatus shiftMember(const T* s, int sStep, const Pxl32u* counts, T* d, int dSt
   }
   const auto kc = constsOf<T, L>(cnt), kk = constsOf<T, L>(keep);
   const auto f = [](auto x, auto n, auto k) { return decltype(x)(Sh::apply(x, n) & k); };
-  for (int y = 0; y < roi.height; ++y)
-    mapPixels<L>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, kc, kk);
+  mapImage<L>(s, sStep, d, dStep, roi, f, kc, kk);
   return pxlStsOk;
 }
 

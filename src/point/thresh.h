@@ -25,20 +25,6 @@ namespace pxl::point {
 
 inline bool badRelation(Pxl32s r) { return r != pxlRelLess && r != pxlRelGreater; }
 
-// A destination too large to stay in the cache is written around it, in
-// place as well as not; the choice never changes a byte.
-template <Lay L, class T, class F, class... Ops>
-void thresholdRows(const T* s, int sStep, T* d, int dStep, PxlSize roi, F&& f, const Ops&... ops) {
-  const std::size_t bytes = std::size_t(roi.width) * channelsOf(L) * sizeof(T) * std::size_t(roi.height);
-  if (bytes >= move::kStreamBytes) {
-    for (int y = 0; y < roi.height; ++y)
-      mapPixels<L, true>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, ops...);
-    simd::storeFence();
-  } else {
-    for (int y = 0; y < roi.height; ++y) mapPixels<L>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, ops...);
-  }
-}
-
 // ------------------------------------------------------------ clip
 
 template <class T, Lay L>
@@ -49,9 +35,9 @@ PxlStatus clipMember(const T* s, int sStep, T* d, int dStep, PxlSize roi, const 
   if (badRelation(rel)) return pxlStsCompareOp;
   const auto k = constsOf<T, L>(t);
   if (rel == pxlRelGreater)
-    thresholdRows<L>(s, sStep, d, dStep, roi, [](auto x, auto t) { return x <= t ? x : t; }, k);
+    mapImage<L>(s, sStep, d, dStep, roi, [](auto x, auto t) { return x <= t ? x : t; }, k);
   else
-    thresholdRows<L>(s, sStep, d, dStep, roi, [](auto x, auto t) { return x >= t ? x : t; }, k);
+    mapImage<L>(s, sStep, d, dStep, roi, [](auto x, auto t) { return x >= t ? x : t; }, k);
   return pxlStsOk;
 }
 
@@ -82,9 +68,9 @@ PxlStatus valueMember(const T* s, int sStep, T* d, int dStep, PxlSize roi, const
   if (anyNull(t, v)) return pxlStsNullPtr;
   const auto kt = constsOf<T, L>(t), kv = constsOf<T, L>(v);
   if (rel == pxlRelGreater)
-    thresholdRows<L>(s, sStep, d, dStep, roi, [](auto x, auto t, auto v) { return t < x ? v : x; }, kt, kv);
+    mapImage<L>(s, sStep, d, dStep, roi, [](auto x, auto t, auto v) { return t < x ? v : x; }, kt, kv);
   else
-    thresholdRows<L>(s, sStep, d, dStep, roi, [](auto x, auto t, auto v) { return t <= x ? x : v; }, kt, kv);
+    mapImage<L>(s, sStep, d, dStep, roi, [](auto x, auto t, auto v) { return t <= x ? x : v; }, kt, kv);
   return pxlStsOk;
 }
 
@@ -122,7 +108,7 @@ PxlStatus bothMember(const T* s, int sStep, T* d, int dStep, PxlSize roi, const 
     if (!(tGT[c] >= tLT[c])) return pxlStsThresholdOrder;
   const auto ktl = constsOf<T, L>(tLT), kvl = constsOf<T, L>(vLT), ktg = constsOf<T, L>(tGT),
              kvg = constsOf<T, L>(vGT);
-  thresholdRows<L>(
+  mapImage<L>(
       s, sStep, d, dStep, roi,
       [](auto x, auto tl, auto vl, auto tg, auto vg) {
         const decltype(x) high = tg < x ? vg : x;
