@@ -71,7 +71,10 @@ long long rule(const Member& m, long long a, long long b, std::uint32_t count) {
 
 void runTrial(const Member& m, int width, int height, std::mt19937& rng) {
   const int px = m.bytes * m.channels;
-  auto pad = [&] { return int(rng() % 7) * m.bytes; };  // odd byte offsets for 8-bit samples
+  // Odd byte offsets for 8-bit samples; a third of the trials have gapless
+  // images, which are walked as one row.
+  const bool tight = rng() % 3 == 0;
+  auto pad = [&] { return tight ? 0 : int(rng() % 7) * m.bytes; };
   auto image = [&] {
     return std::make_unique<TestImage>(width, height, px, pad(), pad(), rng() % 2 ? Place::Back : Place::Front,
                                        rng());

@@ -67,9 +67,8 @@ PxlStatus compareImages(const T* a, int aStep, const T* b, int bStep, Pxl8u* d, 
     const T* p = exchange ? b : a;
     const T* q = exchange ? a : b;
     const int ps = exchange ? bStep : aStep, qs = exchange ? aStep : bStep;
-    for (int y = 0; y < roi.height; ++y)
-      maskPixels<L>(rowAt(p, ps, y), rowAt(d, dStep, y), roi.width,
-                    [](auto x, auto z) { return R::test(x, z); }, Row<T>{rowAt(q, qs, y)});
+    maskImage<L>(p, ps, d, dStep, roi, [](auto x, auto z) { return R::test(x, z); },
+                 [&](int y) { return Row<T>{rowAt(q, qs, y)}; }, qs);
   }, true);
   return pxlStsOk;
 }
@@ -82,9 +81,8 @@ PxlStatus compareConst(const T* s, int sStep, ValueArg<T, L> value, Pxl8u* d, in
   const auto k = constsOf<T, L>(v);
   byRelation(rel, [&](auto r, bool) {
     using R = decltype(r);
-    for (int y = 0; y < roi.height; ++y)
-      maskPixels<L>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width,
-                    [](auto x, auto c) { return R::test(x, c); }, k);
+    maskImage<L>(s, sStep, d, dStep, roi, [](auto x, auto c) { return R::test(x, c); },
+                 [&](int) -> const auto& { return k; }, sStep);
   }, false);
   return pxlStsOk;
 }
@@ -104,8 +102,7 @@ PxlStatus compareEps(const T* a, int aStep, const T* b, int bStep, Pxl8u* d, int
   if (anyNull(a, b, d)) return pxlStsNullPtr;
   if (PxlStatus st = checkShape<Order::NTS>(roi, aStep, bStep, dStep)) return st;
   if (!(eps >= 0.0f)) return pxlStsEpsilon;
-  for (int y = 0; y < roi.height; ++y)
-    maskPixels<L>(rowAt(a, aStep, y), rowAt(d, dStep, y), roi.width, withinEps(eps), Row<T>{rowAt(b, bStep, y)});
+  maskImage<L>(a, aStep, d, dStep, roi, withinEps(eps), [&](int y) { return Row<T>{rowAt(b, bStep, y)}; }, bStep);
   return pxlStsOk;
 }
 
@@ -117,8 +114,7 @@ PxlStatus compareEpsConst(const T* s, int sStep, ValueArg<T, L> value, Pxl8u* d,
   if (PxlStatus st = checkShape<Order::NTS>(roi, sStep, dStep)) return st;
   if (!(eps >= 0.0f)) return pxlStsEpsilon;
   const auto k = constsOf<T, L>(v);
-  for (int y = 0; y < roi.height; ++y)
-    maskPixels<L>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, withinEps(eps), k);
+  maskImage<L>(s, sStep, d, dStep, roi, withinEps(eps), [&](int) -> const auto& { return k; }, sStep);
   return pxlStsOk;
 }
 

@@ -150,9 +150,27 @@ void mapPixels(const T* s, T* d, int width, F&& f, const Ops&... ops) {
   mapRow<channelsOf(L), L == Lay::AC4, Stream>(s, d, width * channelsOf(L), f, ops...);
 }
 
+// The shape to walk: an image whose rows all follow one another with no gap
+// (each of its images) is one row of all its pixels, so that it pays a
+// row's start-up cost once; a pixel's place in its row never matters here.
+template <Lay L>
+PxlSize walkShape(PxlSize roi, bool allGapless) {
+  if (allGapless && roi.height > 1 && std::int64_t(roi.width) * roi.height * channelsOf(L) <= INT32_MAX)
+    return {roi.width * roi.height, 1};
+  return roi;
+}
+
+// Whether images of layout L and type T with these steps are gapless.
+template <Lay L, class T, class... S>
+bool gaplessRows(int width, S... steps) {
+  const std::size_t rowBytes = std::size_t(width) * channelsOf(L) * sizeof(T);
+  return (gapless(steps, rowBytes) && ...);
+}
+
 // mapPixels over every row of an image.
 template <Lay L, class T, class F, class... Ops>
 void mapImage(const T* s, int sStep, T* d, int dStep, PxlSize roi, F&& f, const Ops&... ops) {
+  roi = walkShape<L>(roi, gaplessRows<L, T>(roi.width, sStep, dStep));
   streamedRows(imageBytes<L, T>(roi), roi.height, [&](int y, auto stream) {
     mapPixels<L, decltype(stream)::value>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, ops...);
   });
@@ -162,17 +180,39 @@ void mapImage(const T* s, int sStep, T* d, int dStep, PxlSize roi, F&& f, const 
 // pixel, 0 elsewhere, one byte per pixel. f returns a lane mask (-1 or 0 per
 // lane) on registers and a truth value on scalars. A register block covers
 // K pixels (Ch registers); single-channel rows narrow the mask straight to
-// bytes, the others gather the channels of each pixel from the block.
-template <Lay L, class T, class F, class... Ops>
+// bytes, the others gather the channels of each pixel from the block. With
+// Stream, a byte source of one channel, whose block of masks is a whole
+// register, writes it around the cache after a scalar run to a register
+// boundary, as mapRow does.
+template <Lay L, bool Stream = false, class T, class F, class... Ops>
 void maskPixels(const T* s, Pxl8u* d, int width, F&& f, const Ops&... ops) {
   using V = Reg<T>;
   constexpr int K = kLanes<T>, Ch = channelsOf(L), Used = processedOf(L);
+  constexpr bool kStream = Stream && Ch == 1 && sizeof(T) == 1;
+  static_assert(kStream == Stream, "only byte rows of one channel stream");
   using B = simd::Vec<std::int8_t, K>;
+  const auto scalar = [&](int x) {
+    bool all = true;
+    for (int c = 0; c < Used; ++c) {
+      const int i = x * Ch + c;
+      all = all && bool(f(s[i], ops.template at<T>(i, c)...));
+    }
+    d[x] = all ? 255 : 0;
+  };
   int x = 0;
+  if constexpr (kStream)
+    for (const int peel = std::min(width, int((simd::kBytes - reinterpret_cast<std::uintptr_t>(d) % simd::kBytes) %
+                                              simd::kBytes));
+         x < peel; ++x)
+      scalar(x);
 #pragma GCC unroll 2
   for (; x + K <= width; x += K) {
     if constexpr (Ch == 1) {
-      store(d + x, simd::convert<B>(f(load<V>(s + x), ops.template at<V>(x, 0)...)));
+      const B m = simd::convert<B>(f(load<V>(s + x), ops.template at<V>(x, 0)...));
+      if constexpr (kStream)
+        simd::streamStore(d + x, m);
+      else
+        store(d + x, m);
     } else {
       std::int8_t block[Ch * K];
       for (int j = 0; j < Ch; ++j) {
@@ -198,13 +238,21 @@ void maskPixels(const T* s, Pxl8u* d, int width, F&& f, const Ops&... ops) {
       }
     }
   }
-  for (; x < width; ++x) {
-    bool all = true;
-    for (int c = 0; c < Used; ++c) {
-      const int i = x * Ch + c;
-      all = all && bool(f(s[i], ops.template at<T>(i, c)...));
-    }
-    d[x] = all ? 255 : 0;
+  for (; x < width; ++x) scalar(x);
+}
+
+// maskPixels over every row of an image, with the operand of row y from
+// opAt(y): mask bytes of 8 MiB or more are streamed. opStep is the step of
+// an image operand, or sStep for a constant.
+template <Lay L, class T, class F, class OpAt>
+void maskImage(const T* s, int sStep, Pxl8u* d, int dStep, PxlSize roi, F&& f, OpAt&& opAt, int opStep) {
+  roi = walkShape<L>(roi, gaplessRows<L, T>(roi.width, sStep, opStep) && gapless(dStep, std::size_t(roi.width)));
+  if constexpr (L == Lay::C1 && sizeof(T) == 1) {
+    streamedRows(std::size_t(roi.width) * std::size_t(roi.height), roi.height, [&](int y, auto stream) {
+      maskPixels<L, decltype(stream)::value>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, opAt(y));
+    });
+  } else {
+    for (int y = 0; y < roi.height; ++y) maskPixels<L>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, opAt(y));
   }
 }
 
