@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <random>
 #include <vector>
 
 #include "harness/guard.h"
@@ -160,6 +161,28 @@ TEST(MulDivEdges, ZeroDivisorsWarnAndWriteEverySample) {
     Pxl32sc cd[1] = {{0, 0}}, cn[1] = {{3, 0}}, cr[1];
     EXPECT_EQ(pxlStsDivByZero, pxliDiv_32sc_C1RSfs(cd, 8, cn, 8, cr, 8, {1, 1}, 0));
   }
+}
+
+// A 32f quotient of 8 MiB or more is written around the cache: the same
+// bytes and warning as the same rows divided one call at a time, with rows
+// that start off the register boundary and zero divisors here and there.
+TEST(MulDivEdges, LargeDivisionsStreamTheSameBytes) {
+  const int w = 1031, h = 2050;
+  std::mt19937 rng(9);
+  TestImage den(w, h, 4, 4, 8, Place::Back, 1), num(w, h, 4, 12, 0, Place::Front, 2);
+  TestImage whole(w, h, 4, 4, 4, Place::Back, 3), rows(w, h, 4, 4, 4, Place::Back, 3);
+  for (int y = 0; y < h; ++y)
+    for (int x = 0; x < w; ++x) {
+      den.at<float>(y)[x] = rng() % 97 == 0 ? 0.0f : float(int(rng() % 2001) - 1000) / 7;
+      num.at<float>(y)[x] = float(int(rng() % 2001) - 1000) / 3;
+    }
+  const auto before = whole.snapshot();
+  EXPECT_EQ(pxlStsDivByZero, pxliDiv_32f_C1R(den.at<float>(0), den.step(), num.at<float>(0), num.step(),
+                                             whole.at<float>(0), whole.step(), {w, h}));
+  for (int y = 0; y < h; ++y)
+    pxliDiv_32f_C1R(den.at<float>(y), den.step(), num.at<float>(y), num.step(), rows.at<float>(y), rows.step(), {w, 1});
+  EXPECT_EQ(whole.roiBytes(), rows.roiBytes());
+  EXPECT_TRUE(whole.outsideUnchanged(before));
 }
 
 TEST(MulDivEdges, TwoEqualQuotientsMayDifferByTheirGroup) {

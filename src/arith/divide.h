@@ -180,10 +180,22 @@ template <int G>
   for (int k = 0; k < G; ++k) out[k] = divSingle(num[k], den[k], zero);
 }
 
+// Whole registers of quotients to out; with Stream around the cache (out is
+// then aligned to the register, as the groups are).
+template <bool Stream, class V>
+inline void putQuotients(float* out, V q) {
+  if constexpr (Stream) {
+    if constexpr (sizeof(V) == 32) _mm256_stream_ps(out, (__m256)q);
+    else _mm_stream_ps(out, (__m128)q);
+  } else {
+    simd::store(out, q);
+  }
+}
+
 // One group of G samples: G of 8 and 4 in registers, with one test of the
 // whole group for a zero divisor; 2 and 1 lane by lane (the reciprocal
 // instruction gives the same value in every lane width).
-template <int G>
+template <int G, bool Stream = false>
 inline void divGroup(const float* den, const float* num, float* out, bool& zero) {
   if constexpr (G == 4) {
     const F4 d = simd::load<F4>(den);
@@ -191,12 +203,12 @@ inline void divGroup(const float* den, const float* num, float* out, bool& zero)
   } else if constexpr (G == 8) {
 #if defined(__AVX__)
     const F8 d = simd::load<F8>(den);
-    if (!simd::anyLane(d == 0.0f)) return simd::store(out, refinedQuotient(simd::load<F8>(num), d));
+    if (!simd::anyLane(d == 0.0f)) return putQuotients<Stream>(out, refinedQuotient(simd::load<F8>(num), d));
 #else
     const F4 d0 = simd::load<F4>(den), d1 = simd::load<F4>(den + 4);
     if (!simd::anyLane((d0 == 0.0f) | (d1 == 0.0f))) {
-      simd::store(out, refinedQuotient(simd::load<F4>(num), d0));
-      simd::store(out + 4, refinedQuotient(simd::load<F4>(num + 4), d1));
+      putQuotients<Stream>(out, refinedQuotient(simd::load<F4>(num), d0));
+      putQuotients<Stream>(out + 4, refinedQuotient(simd::load<F4>(num + 4), d1));
       return;
     }
 #endif
@@ -230,6 +242,9 @@ inline void divGroupOf(int g, const float* den, const float* num, float* out, bo
   }
 }
 
+// The blocks of 8 start on a 32-byte boundary of out, so with Stream they
+// can be written around the cache.
+template <bool Stream = false>
 inline bool divRow(const float* den, const float* num, float* out, int len, int) {
   bool zero = false;
   int i = 0;
@@ -240,7 +255,7 @@ inline bool divRow(const float* den, const float* num, float* out, int len, int)
     divGroupOf(g, den + i, num + i, out + i, zero);
     i += g;
   }
-  for (; i + 8 <= len; i += 8) divGroup<8>(den + i, num + i, out + i, zero);
+  for (; i + 8 <= len; i += 8) divGroup<8, Stream>(den + i, num + i, out + i, zero);
   while (i < len) {
     const int g = groupAt(out, i, len);
     divGroupOf(g, den + i, num + i, out + i, zero);
@@ -249,8 +264,9 @@ inline bool divRow(const float* den, const float* num, float* out, int len, int)
   return zero;
 }
 
-// Every other type: sample by sample. Returns whether a divisor was zero.
-template <class T>
+// Every other type: sample by sample, never streamed. Returns whether a
+// divisor was zero.
+template <bool Stream = false, class T>
 inline bool divRow(const T* den, const T* num, T* out, int len, int s) {
   bool zero = false;
   for (int i = 0; i < len; ++i) out[i] = divSample(num[i], den[i], s, zero);
@@ -270,16 +286,21 @@ PxlStatus divMember(const T* den, int denStep, const T* num, int numStep, T* dst
     if (anyNull(den, num, dst)) return pxlStsNullPtr;
     if (PxlStatus st = checkShape<Order::NST>(roi, denStep, numStep, dstStep)) return st;
     bool zero = false;
-    for (int y = 0; y < roi.height; ++y) {
+    auto row = [&](int y, auto stream) {
       const T* a = rowAt(den, denStep, y);
       const T* b = rowAt(num, numStep, y);
       T* d = rowAt(dst, dstStep, y);
       if constexpr (L == Lay::AC4) {
         for (int x = 0; x < roi.width; ++x) zero |= divRow(a + 4 * x, b + 4 * x, d + 4 * x, 3, scale);
       } else {
-        zero |= divRow(a, b, d, roi.width, scale);
+        zero |= divRow<decltype(stream)::value>(a, b, d, roi.width, scale);
       }
-    }
+    };
+    // Only 32f rows have a streaming form; the bytes are the same either way.
+    if constexpr (std::is_same_v<T, Pxl32f> && L == Lay::C1)
+      move::streamedRows(std::size_t(roi.width) * sizeof(T) * std::size_t(roi.height), roi.height, row);
+    else
+      for (int y = 0; y < roi.height; ++y) row(y, std::false_type{});
     return zero ? pxlStsDivByZero : pxlStsOk;
   }
 }

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstring>
 #include <cwchar>
+#include <type_traits>
 
 #include "simd/vec.h"
 
@@ -18,6 +19,20 @@ namespace pxl::move {
 // anyway, and streaming saves reading every line before overwriting it.
 // The choice never changes a result.
 inline constexpr std::size_t kStreamBytes = std::size_t(8) << 20;
+
+// Calls row(y, stream) for every row, stream a compile-time truth value that
+// says whether the rows write around the cache: a destination of
+// destBytes at least kStreamBytes does, in place as well as not, and is
+// fenced once at the end.
+template <class RowFn>
+void streamedRows(std::size_t destBytes, int height, RowFn&& row) {
+  if (destBytes >= kStreamBytes) {
+    for (int y = 0; y < height; ++y) row(y, std::true_type{});
+    simd::storeFence();
+  } else {
+    for (int y = 0; y < height; ++y) row(y, std::false_type{});
+  }
+}
 
 using Bytes = simd::Vec<std::uint8_t, simd::kBytes>;
 

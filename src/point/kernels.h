@@ -124,19 +124,7 @@ void mapRow(const T* s, T* d, int n, F&& f, const Ops&... ops) {
   for (; i < n; ++i) scalar();
 }
 
-// Calls row(y, stream) for every row, stream a compile-time truth value: a
-// destination too large to stay in the cache is written around it, in
-// place as well as not, and fenced once at the end. The choice never
-// changes a byte.
-template <class RowFn>
-void streamedRows(std::size_t destBytes, int height, RowFn&& row) {
-  if (destBytes >= move::kStreamBytes) {
-    for (int y = 0; y < height; ++y) row(y, std::true_type{});
-    simd::storeFence();
-  } else {
-    for (int y = 0; y < height; ++y) row(y, std::false_type{});
-  }
-}
+using move::streamedRows;
 
 // Bytes of the destination of a member of layout L.
 template <Lay L, class T>
