@@ -5,6 +5,8 @@
 
 #include <cmath>
 #include <cstring>
+#include <functional>
+#include <random>
 #include <vector>
 
 #include "frame/gates.h"
@@ -17,6 +19,7 @@ namespace {
 
 using pxltest::GuardedBuffer;
 using pxltest::Place;
+using pxltest::TestImage;
 
 template <class T>
 T add1(T a, T b, int scale) {
@@ -185,3 +188,58 @@ TEST(AddSubEdges, C3ConstantHoldsItsPattern) {
 }
 
 }  // namespace
+
+// Destinations of 8 MiB or more are written around the cache, after a
+// cached run up to a register boundary: the same bytes as the same rows one
+// call at a time, on rows that start off the boundary, with 1 or 2
+// threads.
+TEST(AddSubEdges, LargeImagesStreamTheSameBytes) {
+  using Call = PxlStatus (*)(const void*, int, const void*, int, void*, int, PxlSize);
+  struct Case {
+    const char* name;
+    int bytes;
+    Call call;
+  };
+#define PXL_BIN(T, fn, ...)                                                                                   \
+  [](const void* a, int as, const void* b, int bs, void* d, int ds, PxlSize r) {                              \
+    return fn(static_cast<const T*>(a), as, static_cast<const T*>(b), bs, static_cast<T*>(d), ds, r __VA_ARGS__); \
+  }
+#define PXL_CONST(T, fn, v, ...)                                                                       \
+  [](const void* a, int as, const void*, int, void* d, int ds, PxlSize r) {                           \
+    return fn(static_cast<const T*>(a), as, v, static_cast<T*>(d), ds, r __VA_ARGS__);                 \
+  }
+  const Case cases[] = {
+      {"Add_8u scale 0", 1, PXL_BIN(Pxl8u, pxliAdd_8u_C1RSfs, , 0)},
+      {"Add_8u scale 1", 1, PXL_BIN(Pxl8u, pxliAdd_8u_C1RSfs, , 1)},
+      {"Sub_8u scale 3", 1, PXL_BIN(Pxl8u, pxliSub_8u_C1RSfs, , 3)},
+      {"AddC_8u scale 0", 1, PXL_CONST(Pxl8u, pxliAddC_8u_C1RSfs, 77, , 0)},
+      {"Sub_16s scale -2", 2, PXL_BIN(Pxl16s, pxliSub_16s_C1RSfs, , -2)},
+      {"Add_32f", 4, PXL_BIN(Pxl32f, pxliAdd_32f_C1R)},
+      {"MulC_32f", 4, PXL_CONST(Pxl32f, pxliMulC_32f_C1R, 1.5f)},
+  };
+#undef PXL_BIN
+#undef PXL_CONST
+  std::mt19937 rng(8);
+  const int saved = threads_omp_of_n_pxl;
+  for (const Case& c : cases) {
+    // A little over 8 MiB, rows starting one sample past a boundary.
+    const int w = 4099 / c.bytes, h = 2050;
+    TestImage a(w, h, c.bytes, c.bytes, 0, Place::Back, rng()), b(w, h, c.bytes, 0, 3 * c.bytes, Place::Front, rng());
+    if (c.bytes == 4)  // finite floats: random bits would make NaN payloads the subject
+      for (TestImage* im : {&a, &b})
+        for (int y = 0; y < h; ++y)
+          for (int x = 0; x < w; ++x) im->at<float>(y)[x] = float(int(rng() % 20001) - 10000) / 16;
+    TestImage rows(w, h, c.bytes, c.bytes, c.bytes, Place::Back, 5);
+    for (int y = 0; y < h; ++y)
+      ASSERT_EQ(pxlStsOk, c.call(a.row(y), a.step(), b.row(y), b.step(), rows.row(y), rows.step(), {w, 1})) << c.name;
+    for (int threads : {1, 2}) {
+      threads_omp_of_n_pxl = threads;
+      TestImage whole(w, h, c.bytes, c.bytes, c.bytes, Place::Back, 5);
+      const auto before = whole.snapshot();
+      EXPECT_EQ(pxlStsOk, c.call(a.row(0), a.step(), b.row(0), b.step(), whole.row(0), whole.step(), {w, h}));
+      EXPECT_TRUE(whole.roiBytes() == rows.roiBytes()) << c.name << ", " << threads << " threads";
+      EXPECT_TRUE(whole.outsideUnchanged(before)) << c.name;
+    }
+  }
+  threads_omp_of_n_pxl = saved;
+}

@@ -15,7 +15,9 @@
 // blocks and on scalars for the tail. Both compute the same integers.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <type_traits>
 #include <utility>
@@ -175,12 +177,28 @@ inline R lane(R a, R b, int s) {
   return static_cast<R>(applyRule<Op, P, R>(Op::exact(W(a), W(b)), s));
 }
 
-template <class Op, Path P, class R>
+// Stores a block of results; with Stream around the cache, which needs d
+// aligned to the block (a whole register, or 16 bytes). Blocks of other
+// sizes are stored normally.
+template <bool Stream, class R, class V>
+inline void putBlock(R* d, const V& v) {
+  if constexpr (Stream && sizeof(V) == simd::kBytes) {
+    simd::streamStore(d, v);
+  } else if constexpr (Stream && sizeof(V) == 16) {
+    __m128i x;
+    std::memcpy(&x, &v, sizeof x);
+    _mm_stream_si128(reinterpret_cast<__m128i*>(d), x);
+  } else {
+    simd::store(d, v);
+  }
+}
+
+template <class Op, Path P, bool Stream = false, class R>
 inline void blockBinary(const R* a, const R* b, R* d, int s) {
   using WV = WideVec<Op, R, P>;
   using NV = NarrowVec<Op, R, P>;
   const WV x = Op::exact(simd::convert<WV>(simd::load<NV>(a)), simd::convert<WV>(simd::load<NV>(b)));
-  simd::store(d, simd::convert<NV>(applyRule<Op, P, R>(x, s)));
+  putBlock<Stream>(d, simd::convert<NV>(applyRule<Op, P, R>(x, s)));
 }
 
 // The first operand of a saturating run: a row, or one constant in every lane.
@@ -210,7 +228,7 @@ struct NarrowRun8u<Op, std::void_t<decltype(Op::kNarrowRun8u)>> : std::bool_cons
 // unsigned sum at scale 1 an average: whole registers of narrow lanes, no
 // widening. Returns the samples done; the widened blocks and the tail take
 // the rest.
-template <class Op, Path P, class R, class A>
+template <class Op, Path P, class R, bool Stream = false, class A>
 inline int saturatingRun(const A& a, const R* b, R* d, int len, int s) {
   if constexpr (std::is_same_v<R, std::uint8_t> && NarrowRun8u<Op>::value) {
     return Op::template narrowRun<P>(a, b, d, len, s);
@@ -218,7 +236,7 @@ inline int saturatingRun(const A& a, const R* b, R* d, int len, int s) {
     constexpr int M = simd::kLanes<R>;
     int i = 0;
     for (; i + M <= len; i += M)
-      simd::store(d + i, Op::saturating(operandAt<R>(a, i), simd::load<simd::Reg<R>>(b + i)));
+      putBlock<Stream>(d + i, Op::saturating(operandAt<R>(a, i), simd::load<simd::Reg<R>>(b + i)));
     return i;
   } else if constexpr (P == Path::One && HalvedSumAtOne<Op>::value &&
                        (std::is_same_v<R, std::uint8_t> || std::is_same_v<R, std::uint16_t>)) {
@@ -232,7 +250,7 @@ inline int saturatingRun(const A& a, const R* b, R* d, int len, int s) {
     for (; i + M <= len; i += M) {
       const V x = operandAt<R>(a, i), y = simd::load<V>(b + i);
       const V up = simd::averageUp<R>(x, y);
-      simd::store(d + i, V(up - ((x ^ y) & up & one)));
+      putBlock<Stream>(d + i, V(up - ((x ^ y) & up & one)));
     }
     return i;
   } else {
@@ -241,13 +259,32 @@ inline int saturatingRun(const A& a, const R* b, R* d, int len, int s) {
   }
 }
 
-// Two operands, len samples.
-template <class Op, Path P, class R>
+// With Stream, the samples before the first register boundary of d, where
+// streaming stores can start; -1 where none is ever reached (a destination
+// not aligned to its sample size), which then is not streamed.
+template <class R>
+inline int streamPeel(const R* d, int len) {
+  const std::uintptr_t mis = reinterpret_cast<std::uintptr_t>(d) % simd::kBytes;
+  if (mis % sizeof(R) != 0) return -1;
+  return std::min(len, int((simd::kBytes - mis) % simd::kBytes / sizeof(R)));
+}
+
+// Two operands, len samples. With Stream the whole blocks go around the
+// cache, and the row ends with a store fence, so that a row written by any
+// thread of a region is complete when the row returns.
+template <class Op, Path P, bool Stream = false, class R>
 void rowBinary(const R* a, const R* b, R* d, int len, int s) {
+  if constexpr (Stream) {
+    const int peel = streamPeel(d, len);
+    if (peel < 0) return rowBinary<Op, P>(a, b, d, len, s);
+    rowBinary<Op, P>(a, b, d, peel, s);
+    a += peel, b += peel, d += peel, len -= peel;
+  }
   constexpr int N = kBlock<Op, R, P>;
-  int i = saturatingRun<Op, P, R>(a, b, d, len, s);
-  for (; i + N <= len; i += N) blockBinary<Op, P>(a + i, b + i, d + i, s);
+  int i = saturatingRun<Op, P, R, Stream>(a, b, d, len, s);
+  for (; i + N <= len; i += N) blockBinary<Op, P, Stream>(a + i, b + i, d + i, s);
   for (; i < len; ++i) d[i] = lane<Op, P>(a[i], b[i], s);
+  if constexpr (Stream) simd::storeFence();
 }
 
 // The same in strict increasing address order, for rows whose destination
@@ -270,19 +307,27 @@ struct Pattern {
 };
 
 // Constant operand: x = src (op) constant, len samples.
-template <class Op, Path P, class R, int Period>
+// With Stream (one constant only, Period 1), as rowBinary.
+template <class Op, Path P, class R, int Period, bool Stream = false>
 void rowConst(const R* src, const Pattern<R, Period>& pat, R* d, int len, int s) {
+  static_assert(!Stream || Period == 1, "a pattern's phase would not survive the peel");
+  if constexpr (Stream) {
+    const int peel = streamPeel(d, len);
+    if (peel < 0) return rowConst<Op, P, R, Period>(src, pat, d, len, s);
+    rowConst<Op, P, R, Period>(src, pat, d, peel, s);
+    src += peel, d += peel, len -= peel;
+  }
   using WV = WideVec<Op, R, P>;
   using NV = NarrowVec<Op, R, P>;
   constexpr int N = kBlock<Op, R, P>;
   constexpr int step = N % Period;
   int i = 0, phase = 0;
   if constexpr (Period == 1) {
-    i = saturatingRun<Op, P, R>(splat<simd::Reg<R>>(pat.v[0]), src, d, len, s);
+    i = saturatingRun<Op, P, R, Stream>(splat<simd::Reg<R>>(pat.v[0]), src, d, len, s);
     const WV c = splat<WV>(pat.v[0]);
     for (; i + N <= len; i += N) {
       const WV x = Op::exact(c, simd::convert<WV>(simd::load<NV>(src + i)));
-      simd::store(d + i, simd::convert<NV>(applyRule<Op, P, R>(x, s)));
+      putBlock<Stream>(d + i, simd::convert<NV>(applyRule<Op, P, R>(x, s)));
     }
   } else {
     for (; i + N <= len; i += N) {
@@ -297,6 +342,7 @@ void rowConst(const R* src, const Pattern<R, Period>& pat, R* d, int len, int s)
     d[i] = lane<Op, P>(pat.v[phase], src[i], s);
     if (++phase == Period) phase = 0;
   }
+  if constexpr (Stream) simd::storeFence();
 }
 
 // AC4 pixel loops: the first three samples of four (Parts parts each).

@@ -78,6 +78,14 @@ inline PxlSize serialShape(const T* a, int aStep, const T* b, int bStep, const T
   return overlapsElsewhere(ad, aa, all) || overlapsElsewhere(ad, ab, all) ? roi : one;
 }
 
+// Whether the rows of an image write around the cache: its destination
+// cannot stay cached anyway (see kStreamBytes). Each streaming row ends
+// with its own store fence, so this holds on any thread of a region.
+template <class T, Lay L>
+inline bool streams(PxlSize roi) {
+  return std::size_t(roi.width) * channelsOf(L) * sizeof(T) * std::size_t(roi.height) >= move::kStreamBytes;
+}
+
 // Complex samples whose parts interact (a product): one sample at a time.
 // Ch samples a pixel, of which the first Used are computed.
 template <class Op, Path P, class T, int Ch, int Used>
@@ -122,6 +130,7 @@ PxlStatus binaryMember(const T* a, int aStep, const T* b, int bStep, T* d, int d
     if (path == Path::Above) return fillZero<T, L>(d, dStep, roi);
 
     const GateKey key{Op::kFam, typeTagOf<T>(), L, inPlace};
+    const bool stream = streams<T, L>(roi);
     withPath<R>(path, [&](auto pc) {
       constexpr Path P = decltype(pc)::value;
       const bool region = regionOpens(key, bitOf(P), roi) && mayFork();
@@ -141,6 +150,8 @@ PxlStatus binaryMember(const T* a, int aStep, const T* b, int bStep, T* d, int d
             const int len = walk.width * parts;
             if (kIs16u<T> && (overlapsElsewhere(rd, ra, len) || overlapsElsewhere(rd, rb, len)))
               rowBinaryOrdered<Op, P>(ra, rb, rd, len, scale);
+            else if (stream)
+              rowBinary<Op, P, true>(ra, rb, rd, len, scale);
             else
               rowBinary<Op, P>(ra, rb, rd, len, scale);
           }
@@ -176,9 +187,14 @@ void constRows(const T* src, int srcStep, const PartOf<T>* values, T* dst, int d
     const bool region = regionOpens(key, bitOf(P), roi) && mayFork();
     const PxlSize walk = region ? roi : serialShape<L>(src, srcStep, src, srcStep, dst, dstStep, roi);
     const int len = walk.width * Period;
+    const bool stream = Period == 1 && streams<T, L>(roi);
     rowsShapeA(walk.height, region, [&](int y) {
-      rowConst<Op, P, R, Period>(reinterpret_cast<const R*>(rowAt(src, srcStep, y)), pat,
-                                 reinterpret_cast<R*>(rowAt(dst, dstStep, y)), len, scale);
+      const R* s = reinterpret_cast<const R*>(rowAt(src, srcStep, y));
+      R* d = reinterpret_cast<R*>(rowAt(dst, dstStep, y));
+      if constexpr (Period == 1) {
+        if (stream) return rowConst<Op, P, R, Period, true>(s, pat, d, len, scale);
+      }
+      rowConst<Op, P, R, Period>(s, pat, d, len, scale);
     });
   });
 }
