@@ -182,15 +182,10 @@ inline R lane(R a, R b, int s) {
 // sizes are stored normally.
 template <bool Stream, class R, class V>
 inline void putBlock(R* d, const V& v) {
-  if constexpr (Stream && sizeof(V) == simd::kBytes) {
-    simd::streamStore(d, v);
-  } else if constexpr (Stream && sizeof(V) == 16) {
-    __m128i x;
-    std::memcpy(&x, &v, sizeof x);
-    _mm_stream_si128(reinterpret_cast<__m128i*>(d), x);
-  } else {
+  if constexpr (Stream && (sizeof(V) == simd::kBytes || sizeof(V) == 16))
+    simd::streamBlock(d, v);
+  else
     simd::store(d, v);
-  }
 }
 
 template <class Op, Path P, bool Stream = false, class R>

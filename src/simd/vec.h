@@ -260,6 +260,26 @@ inline void streamStore(void* p, V v) {
 
 inline void storeFence() { _mm_sfence(); }
 
+// A block of whole 16-byte chunks written around the cache: p aligned to
+// kBytes if the block is whole registers, else to 16.
+template <class V>
+inline void streamBlock(void* p, const V& v) {
+  static_assert(sizeof(V) % 16 == 0, "whole 16-byte chunks");
+  constexpr int chunk = sizeof(V) % kBytes == 0 ? kBytes : 16;
+  for (int off = 0; off < int(sizeof(V)); off += chunk) {
+    char* q = static_cast<char*>(p) + off;
+    if constexpr (chunk == 32) {
+      __m256i c;
+      std::memcpy(&c, reinterpret_cast<const char*>(&v) + off, sizeof c);
+      _mm256_stream_si256(reinterpret_cast<__m256i*>(q), c);
+    } else {
+      __m128i c;
+      std::memcpy(&c, reinterpret_cast<const char*>(&v) + off, sizeof c);
+      _mm_stream_si128(reinterpret_cast<__m128i*>(q), c);
+    }
+  }
+}
+
 }  // namespace pxl::simd
 
 // The same type with T lanes: T itself for a scalar, a vector of T with as
