@@ -147,9 +147,9 @@ inline V fullAtAlphaLanes() {
   return f;
 }
 
-// The alphas of one register of wide lanes x (lanes i onwards of the row).
-// The fourth lane of each pixel is broadcast within 128-bit halves, which
-// never split a pixel.
+// The alphas of one register of wide lanes x that starts on a pixel (for
+// Plane, planeAlpha holds the alpha row's matching lanes). The fourth lane of
+// each pixel is broadcast within 128-bit halves, which never split a pixel.
 template <class T, AlphaFrom F, class V>
 inline V alphasOf(const Operand<T>& o, V x, V planeAlpha) {
   if constexpr (F == AlphaFrom::Constant) {
