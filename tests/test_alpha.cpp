@@ -311,6 +311,71 @@ TEST(Alpha, ProductRuleForEveryEightBitPair) {
   }
 }
 
+// Destinations of 8 MiB and more are written around the cache: single
+// samples until the destination is aligned, then whole registers. The odd
+// destination step starts successive rows at every offset from a register
+// boundary; in rows whose offset is not a whole pixel AC4 keeps ordinary
+// stores. Every such path must give the table's bytes.
+TEST(Alpha, LargeDestinationsAtEveryOffset) {
+  using T = Pxl8u;
+  std::mt19937 rng(17);
+  const int w = 2200, h = 1000;  // 8.8 MB of AC4, 2.2 MB a plane
+  for (int left : {12}) {
+    auto s1 = std::make_unique<TestImage>(w, h, 4, 0, 3, Place::Front, rng());
+    auto s2 = std::make_unique<TestImage>(w, h, 4, 8, 0, Place::Back, rng());
+    auto d = std::make_unique<TestImage>(w, h, 4, left, 7, Place::Front, rng());
+    randomize<T>(*s1, rng, 4), randomize<T>(*s2, rng, 4);
+    const auto before = d->snapshot();
+    for (int op : {pxlAlphaOver, pxlAlphaXorPremul}) {
+      ASSERT_EQ(pxlStsOk, pxliAlphaComp_8u_AC4R(px<T>(*s1, 0), s1->step(), px<T>(*s2, 0), s2->step(), px<T>(*d, 0),
+                                                d->step(), {w, h}, op));
+      ASSERT_TRUE(d->outsideUnchanged(before));
+      for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x) {
+          const T *p1 = px<T>(*s1, y) + 4 * x, *p2 = px<T>(*s2, y) + 4 * x, *r = px<T>(*d, y) + 4 * x;
+          for (int c = 0; c < 3; ++c)
+            ASSERT_EQ(r[c], colour<T>(op % 6, op >= 6, p1[c], p1[3], p2[c], p2[3])) << left << " " << x << " " << y;
+          ASSERT_EQ(r[3], alphaLane<T>(op % 6, p1[3], p2[3])) << left << " " << x << " " << y;
+        }
+    }
+    // Constant alphas on premultiplied colours: the alpha lanes take the
+    // constants' result, not the source's samples.
+    ASSERT_EQ(pxlStsOk, pxliAlphaCompC_8u_AC4R(px<T>(*s1, 0), s1->step(), 180, px<T>(*s2, 0), s2->step(), 90,
+                                               px<T>(*d, 0), d->step(), {w, h}, pxlAlphaOverPremul));
+    ASSERT_TRUE(d->outsideUnchanged(before));
+    for (int y = 0; y < h; ++y)
+      for (int i = 0; i < 4 * w; ++i)
+        ASSERT_EQ(px<T>(*d, y)[i], i % 4 == 3 ? alphaLane<T>(0, 180, 90)
+                                              : colour<T>(0, true, px<T>(*s1, y)[i], 180, px<T>(*s2, y)[i], 90))
+            << left << " " << i << " " << y;
+    // In place: each block is read before it is written.
+    std::vector<long> want;
+    for (int y = 0; y < h; ++y)
+      for (int i = 0; i < 4 * w; ++i) want.push_back(mul<T>(px<T>(*d, y)[i], px<T>(*d, y)[i | 3]));
+    for (std::size_t k = 3; k < want.size(); k += 4) want[k] = px<T>(*d, int(k / (4 * w)))[k % (4 * w)];
+    ASSERT_EQ(pxlStsOk, pxliAlphaPremul_8u_AC4IR(px<T>(*d, 0), d->step(), {w, h}));
+    ASSERT_TRUE(d->outsideUnchanged(before));
+    for (int y = 0, n = 0; y < h; ++y)
+      for (int i = 0; i < 4 * w; ++i, ++n) ASSERT_EQ(px<T>(*d, y)[i], want[n]) << left << " " << i << " " << y;
+  }
+  // Four planes of 2.2 MB: colour planes against the alpha plane, and the
+  // alpha plane itself, each streamed on its own.
+  Planes p1 = planes<T>(w, h, rng, Place::Front), p2 = planes<T>(w, h, rng, Place::Back);
+  Planes pd = planes<T>(w, h, rng, Place::Back);
+  const auto q1 = p1.ptrs<T>(), q2 = p2.ptrs<T>();
+  const T* c1[4] = {q1[0], q1[1], q1[2], q1[3]};
+  const T* c2[4] = {q2[0], q2[1], q2[2], q2[3]};
+  const int step = p1.p[0]->step();
+  ASSERT_EQ(pxlStsOk, pxliAlphaComp_8u_AP4R(c1, step, c2, step, pd.ptrs<T>().data(), step, {w, h}, pxlAlphaATop));
+  for (int y = 0; y < h; ++y)
+    for (int x = 0; x < w; ++x) {
+      const long a1 = p1.at<T>(3, y)[x], a2 = p2.at<T>(3, y)[x];
+      for (int k = 0; k < 3; ++k)
+        ASSERT_EQ(pd.at<T>(k, y)[x], colour<T>(3, false, p1.at<T>(k, y)[x], a1, p2.at<T>(k, y)[x], a2)) << x;
+      ASSERT_EQ(pd.at<T>(3, y)[x], alphaLane<T>(3, a1, a2)) << x;
+    }
+}
+
 TEST(Alpha, TableCorners) {
   auto over = [](Pxl8u c1, Pxl8u a1, Pxl8u c2, Pxl8u a2, int op) {
     const Pxl8u s1[4] = {c1, c1, c1, a1}, s2[4] = {c2, c2, c2, a2};

@@ -1,5 +1,6 @@
 // pxliAlphaComp, pxliAlphaCompC, pxliAlphaPremul, pxliAlphaPremulC for 8u and
 // 16u. Serial: one row at a time. None of them looks at a step.
+#include "move/rows.h"
 #include "point/alpha.h"
 
 namespace pxl::point {
@@ -33,6 +34,15 @@ inline PxlStatus checkAlpha(PxlSize roi, P... images) {
 
 inline bool badOperator(int code) { return code < 0 || code > 11; }
 
+// 8u destinations too large to stay in the cache are written around it (the
+// choice never changes a result); such a call ends with a store fence.
+template <class T, AlphaLay L>
+inline bool streamed(PxlSize roi) {
+  constexpr std::size_t samples = kPlanar<L> ? 4 : kSamples<L>;
+  return std::is_same_v<T, Pxl8u> &&
+         std::size_t(roi.width) * samples * std::size_t(roi.height) >= move::kStreamBytes;
+}
+
 template <class T>
 inline const T* planeRow(const T* const* planes, int k, int step, int y) {
   return rowAt(planes[k], step, y);
@@ -48,6 +58,7 @@ template <class T, AlphaLay L, class S, class D>
 PxlStatus alphaComp(S src1, int src1Step, S src2, int src2Step, D dst, int dstStep, PxlSize roi, int alphaType) {
   if (PxlStatus st = checkAlpha<L>(roi, src1, src2, dst)) return st;
   if (badOperator(alphaType)) return pxlStsAlphaOp;
+  const bool stream = streamed<T, L>(roi);
   withOperator(alphaType, [&](auto op, auto pre) {
     constexpr int O = decltype(op)::value;
     constexpr bool Pre = decltype(pre)::value;
@@ -59,21 +70,22 @@ PxlStatus alphaComp(S src1, int src1Step, S src2, int src2Step, D dst, int dstSt
         for (int k = 0; k < 3; ++k)
           alphaLanes<T, AlphaFrom::Plane, AlphaLanes::None>({planeRow(src1, k, src1Step, y), a1, 0},
                                                             {planeRow(src2, k, src2Step, y), a2, 0},
-                                                            planeRow(dst, k, dstStep, y), roi.width, rule);
+                                                            planeRow(dst, k, dstStep, y), roi.width, rule, stream);
         alphaLanes<T, AlphaFrom::Self, AlphaLanes::All>({a1, nullptr, 0}, {a2, nullptr, 0},
-                                                        planeRow(dst, 3, dstStep, y), roi.width, rule);
+                                                        planeRow(dst, 3, dstStep, y), roi.width, rule, stream);
       } else if constexpr (L == AlphaLay::AC1) {
         alphaLanes<T, AlphaFrom::Self, AlphaLanes::All>({rowAt(src1, src1Step, y), nullptr, 0},
                                                         {rowAt(src2, src2Step, y), nullptr, 0},
                                                         rowAt(dst, dstStep, y), roi.width,
-                                                        ComposeRule<T, O, true, Pre>{});
+                                                        ComposeRule<T, O, true, Pre>{}, stream);
       } else {
         alphaLanes<T, AlphaFrom::Pixel, AlphaLanes::Fourth>({rowAt(src1, src1Step, y), nullptr, 0},
                                                             {rowAt(src2, src2Step, y), nullptr, 0},
-                                                            rowAt(dst, dstStep, y), roi.width * 4, rule);
+                                                            rowAt(dst, dstStep, y), roi.width * 4, rule, stream);
       }
     }
   });
+  if (stream) simd::storeFence();
   return pxlStsOk;
 }
 
@@ -84,6 +96,7 @@ PxlStatus alphaCompC(S src1, int src1Step, T alpha1, S src2, int src2Step, T alp
                      PxlSize roi, int alphaType) {
   if (PxlStatus st = checkAlpha<L>(roi, src1, src2, dst)) return st;
   if (badOperator(alphaType)) return pxlStsAlphaOp;
+  const bool stream = streamed<T, L>(roi);
   withOperator(alphaType, [&](auto op, auto pre) {
     constexpr int O = decltype(op)::value;
     constexpr bool Pre = decltype(pre)::value;
@@ -95,18 +108,19 @@ PxlStatus alphaCompC(S src1, int src1Step, T alpha1, S src2, int src2Step, T alp
           const Operand<T> o2{planeRow(src2, k, src2Step, y), nullptr, alpha2};
           T* d = planeRow(dst, k, dstStep, y);
           if (k < 3)
-            alphaLanes<T, AlphaFrom::Constant, AlphaLanes::None>(o1, o2, d, roi.width, rule);
+            alphaLanes<T, AlphaFrom::Constant, AlphaLanes::None>(o1, o2, d, roi.width, rule, stream);
           else
-            alphaLanes<T, AlphaFrom::Constant, AlphaLanes::All>(o1, o2, d, roi.width, rule);
+            alphaLanes<T, AlphaFrom::Constant, AlphaLanes::All>(o1, o2, d, roi.width, rule, stream);
         }
       } else {
         const Operand<T> o1{rowAt(src1, src1Step, y), nullptr, alpha1};
         const Operand<T> o2{rowAt(src2, src2Step, y), nullptr, alpha2};
         constexpr AlphaLanes K = L == AlphaLay::AC4 ? AlphaLanes::Fourth : AlphaLanes::None;
-        alphaLanes<T, AlphaFrom::Constant, K>(o1, o2, rowAt(dst, dstStep, y), roi.width * kSamples<L>, rule);
+        alphaLanes<T, AlphaFrom::Constant, K>(o1, o2, rowAt(dst, dstStep, y), roi.width * kSamples<L>, rule, stream);
       }
     }
   });
+  if (stream) simd::storeFence();
   return pxlStsOk;
 }
 
@@ -114,20 +128,22 @@ template <class T, AlphaLay L, class S, class D>
 PxlStatus alphaPremul(S src, int srcStep, D dst, int dstStep, PxlSize roi) {
   if (PxlStatus st = checkAlpha<L>(roi, src, dst)) return st;
   const PremulRule<T> rule;
+  const bool stream = streamed<T, L>(roi);
   for (int y = 0; y < roi.height; ++y) {
     if constexpr (L == AlphaLay::AP4) {
       const T* a = planeRow(src, 3, srcStep, y);
       for (int k = 0; k < 3; ++k) {
         const Operand<T> o{planeRow(src, k, srcStep, y), a, 0};
-        alphaLanes<T, AlphaFrom::Plane, AlphaLanes::None>(o, o, planeRow(dst, k, dstStep, y), roi.width, rule);
+        alphaLanes<T, AlphaFrom::Plane, AlphaLanes::None>(o, o, planeRow(dst, k, dstStep, y), roi.width, rule, stream);
       }
       const Operand<T> oa{a, nullptr, 0};
-      alphaLanes<T, AlphaFrom::Self, AlphaLanes::All>(oa, oa, planeRow(dst, 3, dstStep, y), roi.width, rule);
+      alphaLanes<T, AlphaFrom::Self, AlphaLanes::All>(oa, oa, planeRow(dst, 3, dstStep, y), roi.width, rule, stream);
     } else {
       const Operand<T> o{rowAt(src, srcStep, y), nullptr, 0};
-      alphaLanes<T, AlphaFrom::Pixel, AlphaLanes::Fourth>(o, o, rowAt(dst, dstStep, y), roi.width * 4, rule);
+      alphaLanes<T, AlphaFrom::Pixel, AlphaLanes::Fourth>(o, o, rowAt(dst, dstStep, y), roi.width * 4, rule, stream);
     }
   }
+  if (stream) simd::storeFence();
   return pxlStsOk;
 }
 
@@ -142,18 +158,20 @@ template <class T, AlphaLay L, class S, class D>
 PxlStatus alphaPremulC(S src, int srcStep, T alpha, D dst, int dstStep, PxlSize roi) {
   if (PxlStatus st = checkAlpha<L>(roi, src, dst)) return st;
   const PremulRule<T> rule;
+  const bool stream = streamed<T, L>(roi);
   for (int y = 0; y < roi.height; ++y) {
     if constexpr (L == AlphaLay::AP4) {
       for (int k = 0; k < 4; ++k) {
         const Operand<T> o{planeRow(src, k, srcStep, y), nullptr, alpha};
-        alphaLanes<T, AlphaFrom::Constant, AlphaLanes::None>(o, o, planeRow(dst, k, dstStep, y), roi.width, rule);
+        alphaLanes<T, AlphaFrom::Constant, AlphaLanes::None>(o, o, planeRow(dst, k, dstStep, y), roi.width, rule, stream);
       }
     } else {
       const Operand<T> o{rowAt(src, srcStep, y), nullptr, alpha};
       alphaLanes<T, AlphaFrom::Constant, AlphaLanes::None>(o, o, rowAt(dst, dstStep, y), roi.width * kSamples<L>,
-                                                           rule);
+                                                           rule, stream);
     }
   }
+  if (stream) simd::storeFence();
   return pxlStsOk;
 }
 
