@@ -1,10 +1,11 @@
 // The differential trial of the sample-wise operations (arithmetic, logic).
-// Every member of a family is called through its sweep thunk on guard-page images of random sizes,
-// offsets and placements (so that vector blocks, peels and tails run at
-// every phase), with samples biased to the limits, and its destination is
-// compared byte for byte with a rule the test file states on its own; the
-// padding, the sources and the status are checked too. Short rows run on
-// one thread; a large image, big enough to open every gate, on 1, 2, 3 and 7.
+// Every member of a family is called through its sweep thunk on guard-page
+// images of random sizes, offsets and placements (so that vector blocks,
+// peels and tails run at every phase), with samples biased to the limits,
+// and its destination is compared byte for byte with a rule the test file
+// states on its own; the padding, the sources and the status are checked
+// too. Short rows run on one thread; a large image, big enough to open every
+// gate, on 1, 2, 3 and 7.
 //
 // The test file supplies the rule (what one destination row must become)
 // and the scales worth trying; this header builds the operands, makes the
@@ -37,12 +38,11 @@ struct TypeInfo {
 
 inline const TypeInfo& typeInfo(const std::string& type) {
   static const std::map<std::string, TypeInfo> kTypes = {
-      {"8u", {1, 1, false, 0, 255}},          {"8s", {1, 1, false, -128, 127}},
-      {"16u", {2, 1, false, 0, 65535}},
-      {"16s", {2, 1, false, -32768, 32767}},  {"32s", {4, 1, false, INT32_MIN, INT32_MAX}},
-      {"32f", {4, 1, true, 0, 0}},            {"16sc", {2, 2, false, -32768, 32767}},
-      {"32sc", {4, 2, false, INT32_MIN, INT32_MAX}}, {"32fc", {4, 2, true, 0, 0}},
-      {"64fc", {8, 2, true, 0, 0}},
+      {"8u", {1, 1, false, 0, 255}},           {"8s", {1, 1, false, -128, 127}},
+      {"16u", {2, 1, false, 0, 65535}},        {"16s", {2, 1, false, -32768, 32767}},
+      {"32s", {4, 1, false, INT32_MIN, INT32_MAX}}, {"32f", {4, 1, true, 0, 0}},
+      {"16sc", {2, 2, false, -32768, 32767}},  {"32sc", {4, 2, false, INT32_MIN, INT32_MAX}},
+      {"32fc", {4, 2, true, 0, 0}},            {"64fc", {8, 2, true, 0, 0}},
   };
   return kTypes.at(type);
 }
