@@ -4,6 +4,8 @@
 // these on guard-page images, byte for byte, samples and alpha alike.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 #include <cstring>
 #include <functional>
@@ -68,6 +70,21 @@ inline std::string firstDifference(const Pixels& want, const TestImage& got) {
              std::to_string(want.data[i]);
     }
   return "";
+}
+
+// Makes the call (which writes dst) and checks dst against the mapping from
+// the source pixels `from`: every byte of the ROI as the rule gives it,
+// nothing outside it changed, and the source image, if named, untouched.
+template <class Call>
+void expectMapped(const Pixels& from, TestImage& dst, PixelShape ps, const Mapping& map, Call&& call,
+                  const TestImage* src = nullptr, const std::uint8_t* fill = nullptr) {
+  const auto dstBefore = dst.snapshot();
+  const auto srcBefore = src != nullptr ? src->snapshot() : std::vector<std::uint8_t>{};
+  const Pixels want = expected(from, Pixels(dst, ps.bytes()), ps, map, fill);
+  ASSERT_EQ(pxlStsOk, call());
+  EXPECT_EQ("", firstDifference(want, dst));
+  EXPECT_TRUE(dst.outsideUnchanged(dstBefore));
+  EXPECT_TRUE(src == nullptr || src->unchanged(srcBefore));
 }
 
 }  // namespace pxltest

@@ -172,21 +172,6 @@ TEST(AddSubEdges, TheGateOpensAboveTwenty) {
   EXPECT_TRUE(pxl::regionOpens(add32f, pxl::kPathSingle, {4, 80}));   // 20 + 1
 }
 
-TEST(AddSubEdges, C3ConstantHoldsItsPattern) {
-  // Long rows of a C3 constant member: the pattern of three constants must
-  // stay in phase across vector blocks and the tail.
-  const int w = 67;
-  std::vector<Pxl8u> src(w * 3, 100), dst(w * 3);
-  const Pxl8u v[3] = {1, 2, 3};
-  EXPECT_EQ(pxlStsOk, pxliAddC_8u_C3RSfs(src.data(), w * 3, v, dst.data(), w * 3, {w, 1}, 0));
-  for (int x = 0; x < w; ++x)
-    for (int c = 0; c < 3; ++c) ASSERT_EQ(dst[x * 3 + c], 101 + c) << x;
-  const Pxl16u u[3] = {7, 7, 7};  // equal constants: handed to C1
-  std::vector<Pxl16u> s16(w * 3, 9), d16(w * 3);
-  EXPECT_EQ(pxlStsOk, pxliSubC_16u_C3RSfs(s16.data(), w * 6, u, d16.data(), w * 6, {w, 1}, 1));
-  for (Pxl16u x : d16) ASSERT_EQ(x, 1);
-}
-
 }  // namespace
 
 // Destinations of 8 MiB or more are written around the cache, after a

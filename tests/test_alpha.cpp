@@ -82,12 +82,6 @@ long alphaLane(int op, long a1, long a2) {
 const int kWidths[] = {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 31, 33, 64, 67};
 
 template <class T>
-std::unique_ptr<TestImage> img(int w, int h, int samples, std::mt19937& rng, Place place) {
-  return std::make_unique<TestImage>(w, h, samples * int(sizeof(T)), int(rng() % 3) * int(sizeof(T)),
-                                     int(rng() % 3) * int(sizeof(T)), place, rng());
-}
-
-template <class T>
 T* px(TestImage& im, int y) {
   return reinterpret_cast<T*>(im.row(y));
 }
@@ -101,6 +95,15 @@ void randomize(TestImage& im, std::mt19937& rng, int samples) {
       const unsigned r = rng() % 8;
       px<T>(im, y)[i] = T(r == 0 ? 0 : r == 1 ? kFull<T> : r == 2 ? kFull<T> - 1 : rng());
     }
+}
+
+// A guarded image of random samples (see randomize) with random padding.
+template <class T>
+std::unique_ptr<TestImage> img(int w, int h, int samples, std::mt19937& rng, Place place) {
+  auto im = std::make_unique<TestImage>(w, h, samples * int(sizeof(T)), int(rng() % 3) * int(sizeof(T)),
+                                        int(rng() % 3) * int(sizeof(T)), place, rng());
+  randomize<T>(*im, rng, samples);
+  return im;
 }
 
 template <class T>
@@ -135,7 +138,6 @@ TYPED_TEST(AlphaTest, InterleavedCompositionFollowsTheTable) {
       const bool pre = op >= 6;
       auto s1 = img<T>(w, h, 4, rng, Place::Front), s2 = img<T>(w, h, 4, rng, Place::Back);
       auto d = img<T>(w, h, 4, rng, Place::Back);
-      randomize<T>(*s1, rng, 4), randomize<T>(*s2, rng, 4);
       const auto before = d->snapshot();
       ASSERT_EQ(pxlStsOk, Fns<T>::comp4(px<T>(*s1, 0), s1->step(), px<T>(*s2, 0), s2->step(), px<T>(*d, 0),
                                         d->step(), {w, h}, op));
@@ -153,7 +155,6 @@ TYPED_TEST(AlphaTest, InterleavedCompositionFollowsTheTable) {
       // AC1: alphas alone, the alpha column.
       auto a1 = img<T>(w, h, 1, rng, Place::Front), a2 = img<T>(w, h, 1, rng, Place::Front);
       auto da = img<T>(w, h, 1, rng, Place::Back);
-      randomize<T>(*a1, rng, 1), randomize<T>(*a2, rng, 1);
       const auto beforeA = da->snapshot();
       ASSERT_EQ(pxlStsOk, Fns<T>::comp1(px<T>(*a1, 0), a1->step(), px<T>(*a2, 0), a2->step(), px<T>(*da, 0),
                                         da->step(), {w, h}, op));
@@ -217,7 +218,6 @@ TYPED_TEST(AlphaTest, PlanarAndConstantForms) {
       const T k1 = T(rng() % 4 == 0 ? kFull<T> : rng()), k2 = T(rng() % 4 == 0 ? 0 : rng());
       auto i1 = img<T>(w, h, 3, rng, Place::Front), i2 = img<T>(w, h, 3, rng, Place::Back);
       auto di = img<T>(w, h, 3, rng, Place::Back);
-      randomize<T>(*i1, rng, 3), randomize<T>(*i2, rng, 3);
       const auto before = di->snapshot();
       ASSERT_EQ(pxlStsOk, Fns<T>::c3(px<T>(*i1, 0), i1->step(), k1, px<T>(*i2, 0), i2->step(), k2, px<T>(*di, 0),
                                      di->step(), {w, h}, op));
@@ -229,7 +229,6 @@ TYPED_TEST(AlphaTest, PlanarAndConstantForms) {
       // Constant alphas, AC4: the alpha samples take the constants' result.
       auto j1 = img<T>(w, h, 4, rng, Place::Front), j2 = img<T>(w, h, 4, rng, Place::Front);
       auto dj = img<T>(w, h, 4, rng, Place::Back);
-      randomize<T>(*j1, rng, 4), randomize<T>(*j2, rng, 4);
       ASSERT_EQ(pxlStsOk, Fns<T>::cA(px<T>(*j1, 0), j1->step(), k1, px<T>(*j2, 0), j2->step(), k2, px<T>(*dj, 0),
                                      dj->step(), {w, h}, op));
       for (int y = 0; y < h; ++y)
@@ -248,7 +247,6 @@ TYPED_TEST(AlphaTest, PremultiplyByPixelAlphaOrConstant) {
   for (int w : kWidths) {
     const int h = 3;
     auto s = img<T>(w, h, 4, rng, Place::Front);
-    randomize<T>(*s, rng, 4);
     auto d = img<T>(w, h, 4, rng, Place::Back);
     const auto before = d->snapshot();
     ASSERT_EQ(pxlStsOk, Fns<T>::pre4(px<T>(*s, 0), s->step(), px<T>(*d, 0), d->step(), {w, h}));
@@ -277,12 +275,10 @@ TYPED_TEST(AlphaTest, PremultiplyByPixelAlphaOrConstant) {
     // By a constant: every sample, alpha included.
     const T k = T(rng());
     auto c3 = img<T>(w, h, 3, rng, Place::Front), c3d = img<T>(w, h, 3, rng, Place::Back);
-    randomize<T>(*c3, rng, 3);
     ASSERT_EQ(pxlStsOk, Fns<T>::preC3(px<T>(*c3, 0), c3->step(), k, px<T>(*c3d, 0), c3d->step(), {w, h}));
     for (int y = 0; y < h; ++y)
       for (int i = 0; i < 3 * w; ++i) ASSERT_EQ(px<T>(*c3d, y)[i], mul<T>(px<T>(*c3, y)[i], k));
     auto a4 = img<T>(w, h, 4, rng, Place::Back);
-    randomize<T>(*a4, rng, 4);
     std::vector<long> want;
     for (int y = 0; y < h; ++y)
       for (int i = 0; i < 4 * w; ++i) want.push_back(mul<T>(px<T>(*a4, y)[i], k));

@@ -14,6 +14,7 @@
 #include <xmmintrin.h>
 
 #include "harness/guard.h"
+#include "harness/samplewise.h"
 #include "pxlcore.h"
 #include "pxli.h"
 #include "pxls.h"
@@ -82,46 +83,6 @@ PxlStatus call(RoundMember<S, D> f, const S* s, int ss, D* d, int ds, PxlSize r,
   return f(s, ss, d, ds, r, mode);
 }
 
-// One member on one geometry: the ROI holds the model's values (alpha of
-// AC4 untouched), nothing else of the destination and nothing of the source
-// has changed.
-template <class S, class D, class F>
-void runCase(F member, int channels, bool alpha, int width, int height, int left, int right, Place place,
-             int roundMode, std::mt19937& rng, const std::string& name) {
-  TestImage src(width, height, channels * int(sizeof(S)), left, right, place, rng());
-  TestImage dst(width, height, channels * int(sizeof(D)), left, right, place == Place::Back ? Place::Front : Place::Back,
-                rng());
-  for (int y = 0; y < height; ++y)
-    for (int i = 0; i < width * channels; ++i) {
-      const S v = sourceSample<S, D>(rng);
-      std::memcpy(src.row(y) + i * sizeof(S), &v, sizeof v);
-    }
-  const auto srcBefore = src.snapshot(), dstBefore = dst.snapshot();
-  const auto dstRoiBefore = dst.roiBytes();
-  const PxlStatus st =
-      call<S, D>(member, src.at<S>(0), src.step(), dst.at<D>(0), dst.step(), PxlSize{width, height}, roundMode);
-  ASSERT_EQ(pxlStsOk, st) << name;
-  ASSERT_TRUE(src.unchanged(srcBefore)) << name;
-  ASSERT_TRUE(dst.outsideUnchanged(dstBefore)) << name << " wrote outside the ROI, width " << width;
-  for (int y = 0; y < height; ++y)
-    for (int i = 0; i < width * channels; ++i) {
-      S s;
-      D got, want;
-      std::memcpy(&s, src.row(y) + i * sizeof(S), sizeof s);
-      std::memcpy(&got, dst.row(y) + i * sizeof(D), sizeof got);
-      if (alpha && i % 4 == 3)
-        std::memcpy(&want, dstRoiBefore.data() + (std::size_t(y) * width * channels + i) * sizeof(D), sizeof want);
-      else
-        want = model<S, D>(s, roundMode);
-      if (std::memcmp(&got, &want, sizeof got) != 0) {
-        ADD_FAILURE() << name << " width " << width << " left " << left << " mode " << roundMode << " row " << y
-                      << " sample " << i << ": from " << double(s) << " got " << double(got) << " want "
-                      << double(want);
-        return;
-      }
-    }
-}
-
 // Every layout of one pair. C1 runs every width up to past two blocks of the
 // widest level at four byte offsets, padded rows and contiguous rows (which
 // the member walks as one row); the other layouts fewer widths.
@@ -142,7 +103,11 @@ void checkPair(const F (&members)[4], const char* pair) {
           // With no padding on either side the image is contiguous.
           const int right = (width + left) % 2 ? 0 : 5;
           const Place place = width % 2 ? Place::Back : Place::Front;
-          runCase<S, D>(members[l], channels[l], l == 3, width, 3, left, right, place, mode, rng, name);
+          pxltest::checkSamplewise<S, D>(
+              [&](const S* s, int ss, D* d, int ds, PxlSize r) { return call<S, D>(members[l], s, ss, d, ds, r, mode); },
+              channels[l], l == 3, width, 3, left, right, place, rng, sourceSample<S, D>,
+              [mode](S x) { return model<S, D>(x, mode); },
+              name + " width " + std::to_string(width) + " left " + std::to_string(left) + " mode " + std::to_string(mode));
           if (::testing::Test::HasFailure()) return;
         }
   }
@@ -200,51 +165,31 @@ TEST(Convert, TiesSpecialsAndLimitsOfEachFloatDestination) {
     float x;
     double nearest, zero;
   };
+  // Each case under both modes.
+  auto check = [](auto member, std::initializer_list<Case> cases) {
+    for (Case c : cases) {
+      EXPECT_EQ(one(member, c.x, pxlRndNear), c.nearest) << c.x;
+      EXPECT_EQ(one(member, c.x, pxlRndZero), c.zero) << c.x;
+    }
+  };
   // 8u
-  for (Case c : {Case{2.5f, 2, 2}, {3.5f, 4, 3}, {-0.4f, 0, 0}, {-2.5f, 0, 0}, {254.5f, 254, 254}, {254.51f, 255, 254},
-                 {300.0f, 255, 255}, {nan, 255, 255}, {inf, 255, 255}, {-inf, 0, 0}, {0.5f, 0, 0}, {1.5f, 2, 1}}) {
-    EXPECT_EQ(one(pxliConvert_32f8u_C1R, c.x, pxlRndNear), c.nearest) << c.x;
-    EXPECT_EQ(one(pxliConvert_32f8u_C1R, c.x, pxlRndZero), c.zero) << c.x;
-  }
+  check(pxliConvert_32f8u_C1R, {{2.5f, 2, 2}, {3.5f, 4, 3}, {-0.4f, 0, 0}, {-2.5f, 0, 0}, {254.5f, 254, 254}, {254.51f, 255, 254},
+        {300.0f, 255, 255}, {nan, 255, 255}, {inf, 255, 255}, {-inf, 0, 0}, {0.5f, 0, 0}, {1.5f, 2, 1}});
   // 8s: -128.7 and 127.9 saturate under either mode.
-  for (Case c : {Case{-128.7f, -128, -128}, {127.9f, 127, 127}, {-2.5f, -2, -2}, {-3.5f, -4, -3}, {-0.6f, -1, 0},
-                 {nan, 127, 127}, {inf, 127, 127}, {-inf, -128, -128}, {-127.5f, -128, -127}}) {
-    EXPECT_EQ(one(pxliConvert_32f8s_C1R, c.x, pxlRndNear), c.nearest) << c.x;
-    EXPECT_EQ(one(pxliConvert_32f8s_C1R, c.x, pxlRndZero), c.zero) << c.x;
-  }
+  check(pxliConvert_32f8s_C1R, {{-128.7f, -128, -128}, {127.9f, 127, 127}, {-2.5f, -2, -2}, {-3.5f, -4, -3}, {-0.6f, -1, 0},
+        {nan, 127, 127}, {inf, 127, 127}, {-inf, -128, -128}, {-127.5f, -128, -127}});
   // 16u
-  for (Case c : {Case{65534.5f, 65534, 65534}, {65535.4f, 65535, 65535}, {70000.0f, 65535, 65535}, {-0.5f, 0, 0},
-                 {nan, 65535, 65535}, {-inf, 0, 0}, {1e30f, 65535, 65535}, {4.5f, 4, 4}, {5.5f, 6, 5}}) {
-    EXPECT_EQ(one(pxliConvert_32f16u_C1R, c.x, pxlRndNear), c.nearest) << c.x;
-    EXPECT_EQ(one(pxliConvert_32f16u_C1R, c.x, pxlRndZero), c.zero) << c.x;
-  }
+  check(pxliConvert_32f16u_C1R, {{65534.5f, 65534, 65534}, {65535.4f, 65535, 65535}, {70000.0f, 65535, 65535}, {-0.5f, 0, 0},
+        {nan, 65535, 65535}, {-inf, 0, 0}, {1e30f, 65535, 65535}, {4.5f, 4, 4}, {5.5f, 6, 5}});
   // 16s
-  for (Case c : {Case{-32768.9f, -32768, -32768}, {32767.5f, 32767, 32767}, {-32767.5f, -32768, -32767},
-                 {-2.5f, -2, -2}, {-1.5f, -2, -1}, {nan, 32767, 32767}, {inf, 32767, 32767}, {-inf, -32768, -32768}}) {
-    EXPECT_EQ(one(pxliConvert_32f16s_C1R, c.x, pxlRndNear), c.nearest) << c.x;
-    EXPECT_EQ(one(pxliConvert_32f16s_C1R, c.x, pxlRndZero), c.zero) << c.x;
-  }
+  check(pxliConvert_32f16s_C1R, {{-32768.9f, -32768, -32768}, {32767.5f, 32767, 32767}, {-32767.5f, -32768, -32767},
+        {-2.5f, -2, -2}, {-1.5f, -2, -1}, {nan, 32767, 32767}, {inf, 32767, 32767}, {-inf, -32768, -32768}});
   // Any mode other than pxlRndNear truncates.
   for (int mode : {7, -1, 2, 1 << 30}) {
     EXPECT_EQ(one(pxliConvert_32f16s_C1R, 3.7f, mode), 3) << mode;
     EXPECT_EQ(one(pxliConvert_32f16s_C1R, -3.7f, mode), -3) << mode;
     EXPECT_EQ(one(pxliConvert_32f8u_C1R, 3.5f, mode), 3) << mode;
   }
-}
-
-TEST(Convert, ChannelsLandWhereTheyCameFrom) {
-  // Distinct per channel, so a swapped or shifted channel shows.
-  const float src[8] = {1.4f, 2.6f, 3.5f, 99.0f, 10.0f, 20.0f, 30.0f, 77.0f};
-  Pxl8u d3[6], d4[8], da[8];
-  std::memset(da, 0xEE, sizeof da);
-  EXPECT_EQ(pxlStsOk, pxliConvert_32f8u_C3R(src, 24, d3, 6, {2, 1}, pxlRndNear));
-  EXPECT_EQ(pxlStsOk, pxliConvert_32f8u_C4R(src, 32, d4, 8, {2, 1}, pxlRndNear));
-  EXPECT_EQ(pxlStsOk, pxliConvert_32f8u_AC4R(src, 32, da, 8, {2, 1}, pxlRndNear));
-  const Pxl8u want3[6] = {1, 3, 4, 99, 10, 20}, want4[8] = {1, 3, 4, 99, 10, 20, 30, 77},
-              wantA[8] = {1, 3, 4, 0xEE, 10, 20, 30, 0xEE};
-  EXPECT_EQ(0, std::memcmp(d3, want3, 6));
-  EXPECT_EQ(0, std::memcmp(d4, want4, 8));
-  EXPECT_EQ(0, std::memcmp(da, wantA, 8));
 }
 
 // The rounding field and the masks of the SSE control register; the sticky

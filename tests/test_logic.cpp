@@ -7,137 +7,69 @@
 
 #include <algorithm>
 #include <cstring>
-#include <memory>
-#include <random>
-#include <regex>
 #include <string>
+#include <utility>
 
+#include "harness/differential.h"
 #include "harness/guard.h"
-#include "sweep.h"
+#include "pxli.h"
 
 namespace {
 
 using pxltest::Place;
 using pxltest::TestImage;
+using pxltest::diff::Member;
 
-struct Member {
-  const SweepEntry* e;
-  std::string op, type, layout;
-  bool inPlace = false, isSigned = false;
-  int bytes = 1, channels = 1, used = 1;
-  bool binary() const { return op == "And" || op == "Or" || op == "Xor"; }
-  bool shift() const { return op == "LShiftC" || op == "RShiftC"; }
-};
-
-bool parse(const SweepEntry& e, Member& m) {
-  static const std::regex re("pxli(And|Or|Xor|AndC|OrC|XorC|Not|LShiftC|RShiftC)_(8u|8s|16u|16s|32s)_(C1|C3|C4|AC4)(I?)R");
-  std::cmatch r;
-  if (!std::regex_match(e.name, r, re)) return false;
-  m.e = &e;
-  m.op = r[1], m.type = r[2], m.layout = r[3], m.inPlace = r[4] == "I";
-  m.bytes = m.type == "8u" || m.type == "8s" ? 1 : m.type == "32s" ? 4 : 2;
-  m.isSigned = m.type.back() == 's';
-  m.channels = m.layout == "C1" ? 1 : m.layout == "C3" ? 3 : 4;
-  m.used = m.layout == "AC4" ? 3 : m.channels;
-  return true;
-}
-
-long long get(const std::uint8_t* p, const Member& m) {
-  std::uint32_t u = 0;
-  std::memcpy(&u, p, m.bytes);
-  const int bits = 8 * m.bytes;
-  long long v = bits == 32 ? (long long)u : (long long)(u & ((1u << bits) - 1));
-  if (m.isSigned && v >= (1LL << (bits - 1))) v -= 1LL << bits;
-  return v;
-}
-
-void put(std::uint8_t* p, long long v, const Member& m) {
-  const std::uint32_t u = static_cast<std::uint32_t>(v);
-  std::memcpy(p, &u, m.bytes);
-}
-
-// The rule for one sample: a the source, b the other image's sample, or the
-// constant, or the count.
+// The rule for one sample: a the source, b the other image's sample or the
+// constant, count the shift.
 long long rule(const Member& m, long long a, long long b, std::uint32_t count) {
-  const int bits = 8 * m.bytes;
-  if (m.op == "And" || m.op == "AndC") return a & b;
-  if (m.op == "Or" || m.op == "OrC") return a | b;
-  if (m.op == "Xor" || m.op == "XorC") return a ^ b;
-  if (m.op == "Not") return ~a;
-  if (m.op == "LShiftC") return count >= unsigned(bits) ? 0 : (long long)((unsigned long long)a << count);
-  if (!m.isSigned) return count >= unsigned(bits) ? 0 : a >> count;
+  const unsigned bits = 8 * m.t.partBytes;
+  switch (m.op[0]) {  // And, Or, Xor, Not, LShift, RShift
+    case 'A': return a & b;
+    case 'O': return a | b;
+    case 'X': return a ^ b;
+    case 'N': return ~a;
+    case 'L': return count >= bits ? 0 : (long long)((unsigned long long)a << count);
+  }
+  if (m.t.lo == 0) return count >= bits ? 0 : a >> count;
   return a >> std::min<std::uint32_t>(count, 62);  // floor(a / 2^count)
 }
 
-void runTrial(const Member& m, int width, int height, std::mt19937& rng) {
-  const int px = m.bytes * m.channels;
-  // Odd byte offsets for 8-bit samples; a third of the trials have gapless
-  // images, which are walked as one row.
-  const bool tight = rng() % 3 == 0;
-  auto pad = [&] { return tight ? 0 : int(rng() % 7) * m.bytes; };
-  auto image = [&] {
-    return std::make_unique<TestImage>(width, height, px, pad(), pad(), rng() % 2 ? Place::Back : Place::Front,
-                                       rng());
-  };
-  auto s1 = image();
-  auto s2 = m.binary() ? image() : nullptr;
-  auto dOwn = m.inPlace ? nullptr : image();
-  TestImage* d = m.inPlace ? (m.binary() ? s2.get() : s1.get()) : dOwn.get();
+bool isShift(const Member& m) { return m.op == "LShift" || m.op == "RShift"; }
 
-  // Constants: all equal a third of the time; counts drawn around the limits.
-  const int bits = 8 * m.bytes;
-  std::uint32_t counts[4];
-  std::uint8_t value[16];
-  const std::uint32_t pick[] = {0, 1, 3, std::uint32_t(bits - 1), std::uint32_t(bits), std::uint32_t(bits + 1),
-                                31, 32, 40, 0xFFFFFFFFu, std::uint32_t(rng() % bits)};
+void refRow(const Member& m, const pxltest::diff::Operands& o, int y, int, std::uint8_t* row, bool&) {
+  std::uint32_t counts[4] = {};
+  const bool shift = isShift(m);
+  if (shift) std::memcpy(counts, o.value.data(), sizeof counts);
+  o.forEachSample(m, y, [&](const std::uint8_t* a, const std::uint8_t* b, int off) {
+    // Constant forms: a is the constant, b the source.
+    const long long src = get(m.constant ? b : a, m).i[0], other = shift ? 0 : get(m.constant ? a : b, m).i[0];
+    pxltest::diff::Num r;
+    r.i[0] = rule(m, src, other, counts[off / m.t.partBytes % m.channels]);
+    put(row + off, r, m);
+  });
+}
+
+// Shift counts around the sample width and past 31, all equal a third of
+// the time (the C3 forms then run as one channel).
+std::vector<std::uint8_t> countsFor(const Member& m, std::mt19937& rng) {
+  if (!isShift(m)) return pxltest::diff::constants(m, rng, false);
+  const std::uint32_t bits = 8 * m.t.partBytes;
+  const std::uint32_t pick[] = {0, 1, 3, bits - 1, bits, bits + 1, 31, 32, 40, 0xFFFFFFFFu, std::uint32_t(rng() % bits)};
   const bool equal = rng() % 3 == 0;
-  for (int c = 0; c < 4; ++c) {
-    counts[c] = equal && c > 0 ? counts[0] : pick[rng() % (sizeof pick / sizeof pick[0])];
-    const std::uint32_t r = rng();
-    std::memcpy(value + c * m.bytes, equal && c > 0 ? value : reinterpret_cast<const std::uint8_t*>(&r), m.bytes);
-  }
-
-  std::vector<std::vector<std::uint8_t>> expect(height);
-  for (int y = 0; y < height; ++y) {
-    expect[y].assign(d->row(y), d->row(y) + d->rowBytes());  // alpha of AC4 stays
-    for (int x = 0; x < width; ++x)
-      for (int c = 0; c < m.used; ++c) {
-        const int off = (x * m.channels + c) * m.bytes;
-        const long long a = get(s1->row(y) + off, m);
-        const long long b = m.binary() ? get(s2->row(y) + off, m) : get(value + c * m.bytes, m);
-        put(expect[y].data() + off, rule(m, a, b, counts[c]), m);
-      }
-  }
-  const auto before1 = s1->snapshot(), beforeD = d->snapshot();
-
-  SweepArgs a{};
-  int k = 0;
-  for (TestImage* t : {s1.get(), s2.get(), dOwn.get()})
-    if (t != nullptr) a.img[k] = t->roi(), a.step[k++] = t->step();
-  a.roi = {width, height};
-  a.value = m.shift() ? static_cast<const void*>(counts) : value;
-  ASSERT_EQ(m.e->call(a), pxlStsOk) << m.e->name;
-  for (int y = 0; y < height; ++y)
-    ASSERT_EQ(0, std::memcmp(expect[y].data(), d->row(y), d->rowBytes()))
-        << m.e->name << " row " << y << " width " << width << " counts " << counts[0] << " " << counts[1] << " "
-        << counts[2] << " " << counts[3];
-  ASSERT_TRUE(d->outsideUnchanged(beforeD)) << m.e->name << " wrote outside the ROI";
-  if (d != s1.get()) {
-    ASSERT_TRUE(s1->unchanged(before1)) << m.e->name << " wrote its source";
-  }
+  std::uint32_t counts[4];
+  for (int c = 0; c < 4; ++c) counts[c] = equal && c > 0 ? counts[0] : pick[rng() % (sizeof pick / sizeof pick[0])];
+  const auto* p = reinterpret_cast<const std::uint8_t*>(counts);
+  return {p, p + sizeof counts};
 }
 
 TEST(Logic, EveryMemberFollowsItsRuleAtEveryLengthOffsetAndCount) {
-  std::mt19937 rng(4301);
-  int members = 0;
-  for (const SweepEntry& e : kSweepTable) {
-    Member m;
-    if (!parse(e, m)) continue;
-    ++members;
-    for (int w : {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 31, 32, 33, 40 + int(rng() % 60)})
-      for (int rep = 0; rep < (m.shift() ? 6 : 2); ++rep) runTrial(m, w, 1 + int(rng() % 3), rng);
-    if (HasFatalFailure()) return;
-  }
+  pxltest::diff::Family f{"And|Or|Xor|Not|LShift|RShift", 4301, {1, 2, 3, 4, 5, 7, 8, 9, 15, 16, 17, 31, 32, 33},
+                          [](const Member& m) { return std::vector<int>(isShift(m) ? 6 : 2, 0); }, refRow};
+  f.constants = countsFor;
+  f.unary = "Not";
+  const int members = pxltest::diff::runEveryMember(f);
+  if (HasFatalFailure()) return;
   // Six logic families of 3 types, Not, LShiftC of 3, RShiftC of 5; 4 layouts, 2 forms.
   EXPECT_EQ(members, (6 * 3 + 1 + 3 + 5) * 4 * 2);
 }
@@ -146,6 +78,7 @@ TEST(Logic, EveryMemberFollowsItsRuleAtEveryLengthOffsetAndCount) {
 // after a scalar run up to a register boundary: the same bytes, alpha too.
 TEST(Logic, LargeImagesGiveTheSameBytes) {
   std::mt19937 rng(4302);
+  const pxltest::diff::Names names("And|Or|Xor|Not|LShift|RShift");
   const std::pair<const char*, int> big[] = {{"pxliAnd_8u_C1R", 4100},
                                              {"pxliXorC_8u_AC4IR", 1030},
                                              {"pxliOrC_32s_C3R", 700},
@@ -153,10 +86,11 @@ TEST(Logic, LargeImagesGiveTheSameBytes) {
   int ran = 0;
   for (const SweepEntry& e : kSweepTable) {
     Member m;
-    if (!parse(e, m)) continue;
+    if (!names.parse(e, m)) continue;
+    if (m.constant || m.op == "Not") m.sources = 1;
     for (const auto& b : big)
       if (std::string(e.name) == b.first) {
-        runTrial(m, b.second, 2051, rng);
+        pxltest::diff::runTrial(m, {b.second, 2051, 0}, rng, 1, countsFor, refRow);
         ++ran;
       }
   }
@@ -189,16 +123,6 @@ TEST(Logic, CountsAtAndBeyondTheWidth) {
   ASSERT_EQ(pxliLShiftC_8u_C1R(u, 5, 1, out, 5, {5, 1}), pxlStsOk);
   EXPECT_EQ(out[1], 0);  // the top bit is lost
   EXPECT_EQ(out[2], 254);
-}
-
-TEST(Logic, EqualC3ConstantsMatchTheOneChannelForm) {
-  std::mt19937 rng(9);
-  TestImage src(37, 3, 3, 1, 2, Place::Back, 1), d3(37, 3, 3, 3, 0, Place::Front, 2), d1(37 * 3, 3, 1, 0, 1,
-                                                                                         Place::Back, 3);
-  const Pxl8u seven[3] = {7, 7, 7};
-  ASSERT_EQ(pxliAndC_8u_C3R(src.roi(), src.step(), seven, d3.roi(), d3.step(), {37, 3}), pxlStsOk);
-  ASSERT_EQ(pxliAndC_8u_C1R(src.roi(), src.step(), 7, d1.roi(), d1.step(), {111, 3}), pxlStsOk);
-  EXPECT_EQ(d3.roiBytes(), d1.roiBytes());
 }
 
 TEST(Logic, NotLeavesAlphaAndAnErrorWritesNothing) {

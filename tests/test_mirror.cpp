@@ -11,11 +11,7 @@
 
 namespace {
 
-using pxltest::Mapping;
-using pxltest::PixelShape;
-using pxltest::Pixels;
-using pxltest::Place;
-using pxltest::TestImage;
+using namespace pxltest;
 
 struct Member {
   const char* name;
@@ -61,25 +57,14 @@ TEST(Mirror, EveryMemberAxisAndSizeFollowsTheMapping) {
         TestImage src(sz.width, sz.height, pb, 3, 0, Place::Back, rng());
         TestImage dst(sz.width, sz.height, pb, 0, 7, Place::Front, rng());
         TestImage dst2(sz.width, sz.height, pb, 9, 0, Place::Back, rng());
-        const auto srcBefore = src.snapshot();
-        const Pixels s(src, pb);
-        for (TestImage* d : {&dst, &dst2}) {
-          const auto before = d->snapshot();
-          const Pixels want = pxltest::expected(s, Pixels(*d, pb), m.shape, mirrorMap(axis, sz.width, sz.height));
-          ASSERT_EQ(pxlStsOk, m.r(src.roi(), src.step(), d->roi(), d->step(), sz, axis));
-          EXPECT_EQ("", pxltest::firstDifference(want, *d));
-          EXPECT_TRUE(d->outsideUnchanged(before));
-        }
-        EXPECT_TRUE(src.unchanged(srcBefore));
+        const Mapping map = mirrorMap(axis, sz.width, sz.height);
+        for (TestImage* d : {&dst, &dst2})
+          expectMapped(Pixels(src, pb), *d, m.shape, map,
+                       [&] { return m.r(src.roi(), src.step(), d->roi(), d->step(), sz, axis); }, &src);
 
         // In place: the same mapping applied to the image as it was.
         TestImage io(sz.width, sz.height, pb, 4, 0, Place::Back, rng());
-        const auto ioBefore = io.snapshot();
-        const Pixels in(io, pb);
-        const Pixels want = pxltest::expected(in, in, m.shape, mirrorMap(axis, sz.width, sz.height));
-        ASSERT_EQ(pxlStsOk, m.ir(io.roi(), io.step(), sz, axis));
-        EXPECT_EQ("", pxltest::firstDifference(want, io));
-        EXPECT_TRUE(io.outsideUnchanged(ioBefore));
+        expectMapped(Pixels(io, pb), io, m.shape, map, [&] { return m.ir(io.roi(), io.step(), sz, axis); });
       }
 }
 

@@ -1,77 +1,25 @@
 // Mul, MulC, Div, DivC, MulScale, MulCScale against an independent
-// statement of each rule: every image member and vector form, random sizes
-// and offsets (vector blocks, peels and tails at every phase), scales at and
-// beyond each limit, 1, 2, 3 and 7 threads, images between guard pages.
+// statement of each rule: every image member and vector form, scales at and
+// beyond each limit, run by the differential trial (random sizes, offsets
+// and thread counts, images between guard pages).
 #include <gtest/gtest.h>
 #include <xmmintrin.h>
 
 #include <cmath>
 #include <cstring>
-#include <map>
-#include <memory>
-#include <random>
-#include <regex>
-#include <string>
 
-#include "harness/guard.h"
-#include "sweep.h"
+#include "harness/differential.h"
 
 namespace {
 
-using pxltest::Place;
-using pxltest::TestImage;
+using pxltest::diff::Member;
+using pxltest::diff::Num;
+using pxltest::diff::TypeInfo;
 using i128 = __int128;
-
-struct TypeInfo {
-  int partBytes;
-  int parts;
-  bool isFloat;
-  long long lo, hi;
-};
-
-const std::map<std::string, TypeInfo> kTypes = {
-    {"8u", {1, 1, false, 0, 255}},         {"16u", {2, 1, false, 0, 65535}},
-    {"16s", {2, 1, false, -32768, 32767}}, {"32f", {4, 1, true, 0, 0}},
-    {"16sc", {2, 2, false, -32768, 32767}}, {"32sc", {4, 2, false, INT32_MIN, INT32_MAX}},
-    {"32fc", {4, 2, true, 0, 0}},          {"64fc", {8, 2, true, 0, 0}},
-};
 
 enum class Kind { Mul, Div, MulScale };
 
-struct Member {
-  const SweepEntry* e;
-  Kind kind;
-  bool constant, inPlace, vector;
-  std::string type, layout;
-  TypeInfo t;
-  int channels = 1, used = 1;
-};
-
-bool parse(const SweepEntry& e, Member& m) {
-  static const std::regex img("pxli(Mul|Div)(C?)(Scale)?_([0-9a-z]+)_(C1|C3|C4|AC4)(I?)R(Sfs)?");
-  static const std::regex vec("pxls(Mul|Div)(C?)_([0-9a-z]+)(_I|_ISfs|_Sfs)?");
-  std::cmatch r;
-  m.e = &e;
-  if (std::regex_match(e.name, r, img)) {
-    m.vector = false;
-    m.kind = r[3].matched ? Kind::MulScale : r[1] == "Mul" ? Kind::Mul : Kind::Div;
-    m.type = r[4];
-    m.layout = r[5];
-    m.inPlace = r[6] == "I";
-    m.channels = m.layout == "C1" ? 1 : m.layout == "C3" ? 3 : 4;
-    m.used = m.layout == "AC4" ? 3 : m.channels;
-  } else if (std::regex_match(e.name, r, vec)) {
-    m.vector = true;
-    m.kind = r[1] == "Mul" ? Kind::Mul : Kind::Div;
-    m.type = r[3];
-    m.inPlace = std::string(r[4]).rfind("_I", 0) == 0;
-  } else {
-    return false;
-  }
-  m.constant = r[2] == "C";
-  m.t = kTypes.at(m.type);
-  return true;
-}
+Kind kindOf(const Member& m) { return m.scaleForm ? Kind::MulScale : m.op == "Mul" ? Kind::Mul : Kind::Div; }
 
 // ------------------------------------------------------------ the rules
 
@@ -91,39 +39,6 @@ long long refScale(i128 x, int s, const TypeInfo& t) {
     v = x == 0 ? 0 : -s > 60 ? (x > 0 ? i128(1) << 100 : -(i128(1) << 100)) : x * (i128(1) << -s);
   }
   return static_cast<long long>(v < t.lo ? t.lo : v > t.hi ? t.hi : v);
-}
-
-// One sample as numbers: up to two parts, integer or float.
-struct Num {
-  long long i[2] = {0, 0};
-  double f[2] = {0, 0};
-};
-
-Num get(const std::uint8_t* p, const Member& m) {
-  Num n;
-  for (int k = 0; k < m.t.parts && k < 2; ++k, p += m.t.partBytes) {
-    if (m.t.isFloat) {
-      if (m.t.partBytes == 4) { float v; std::memcpy(&v, p, 4); n.f[k] = v; }
-      else std::memcpy(&n.f[k], p, 8);
-    } else if (m.type == "8u") {
-      n.i[k] = *p;
-    } else if (m.type == "16u") {
-      std::uint16_t v; std::memcpy(&v, p, 2); n.i[k] = v;
-    } else if (m.t.partBytes == 2) {
-      std::int16_t v; std::memcpy(&v, p, 2); n.i[k] = v;
-    } else {
-      std::int32_t v; std::memcpy(&v, p, 4); n.i[k] = v;
-    }
-  }
-  return n;
-}
-
-void put(std::uint8_t* p, const Num& n, const Member& m) {
-  for (int k = 0; k < m.t.parts && k < 2; ++k, p += m.t.partBytes) {
-    if (m.t.isFloat && m.t.partBytes == 4) { const float v = float(n.f[k]); std::memcpy(p, &v, 4); }
-    else if (m.t.isFloat) std::memcpy(p, &n.f[k], 8);
-    else { const long long v = n.i[k]; std::memcpy(p, &v, m.t.partBytes); }  // little endian
-  }
 }
 
 // Products. Floats: each IEEE operation in the part's own precision.
@@ -275,38 +190,63 @@ float reciprocal6(int v) {
   return v == 0 ? 0.000001f : float(std::floor(1e6 / v + 0.5) / 1e6);
 }
 
-// ------------------------------------------------------------ trials
+// ------------------------------------------------------------ rows
 
-void fillSamples(TestImage& im, const Member& m, std::mt19937& rng, bool noZero) {
-  im.fillRandom(rng);
-  const int n = im.rowBytes() / m.t.partBytes;
-  for (int y = 0; y < im.height(); ++y)
-    for (int i = 0; i < n; ++i) {
-      std::uint8_t* p = im.row(y) + i * m.t.partBytes;
-      const unsigned k = rng() % 10;
-      if (m.t.isFloat) {
-        // Short mantissas (exact products, ties) and full ones (last-bit
-        // differences of the reciprocal estimate).
-        double v = k < 5 ? std::ldexp(double(int(rng() % 2001) - 1000), int(rng() % 20) - 10)
-                         : (double(rng()) / 4294967296.0 + 0.5) * std::ldexp(rng() % 2 ? 1.0 : -1.0, int(rng() % 20) - 10);
-        if (k == 0 && !noZero) v = 0;
-        if (v == 0 && noZero) v = 3;
-        if (m.t.partBytes == 4) { const float f = float(v); std::memcpy(p, &f, 4); }
-        else std::memcpy(p, &v, 8);
-        continue;
-      }
-      long long v = k == 0 ? m.t.lo : k == 1 ? m.t.hi : k == 2 ? 0 : k == 3 ? 1 : k == 4 ? -1 : k == 5 ? 2 : 0;
-      if (k >= 6) v = m.t.lo + static_cast<long long>(rng() % static_cast<unsigned long long>(m.t.hi - m.t.lo + 1));
-      if (m.t.lo == 0 && v < 0) v = 0;
-      if (noZero && v == 0) v = 1 + rng() % 7;
-      const long long w = v;
-      std::memcpy(p, &w, m.t.partBytes);
+void refRow(const Member& m, const pxltest::diff::Operands& o, int y, int s, std::uint8_t* row, bool& zero) {
+  const int width = o.dst->width(), ch = m.channels;
+  const Kind kind = kindOf(m);
+  const bool f32 = m.type == "32f", fc32 = m.type == "32fc", u8 = m.type == "8u";
+  if (kind == Kind::Div && !m.constant && f32) {
+    // Rows (or, in AC4, each pixel's three samples) in groups.
+    const float* den = reinterpret_cast<const float*>(o.src[0]->row(y));
+    const float* num = reinterpret_cast<const float*>(o.src.back()->row(y));
+    float* res = reinterpret_cast<float*>(row);
+    const float* out = reinterpret_cast<const float*>(o.dst->row(y));
+    if (m.used == ch)
+      refDiv32fRow(den, num, res, out, width * ch, zero);
+    else
+      for (int x = 0; x < width; ++x) refDiv32fRow(den + 4 * x, num + 4 * x, res + 4 * x, out + 4 * x, 3, zero);
+    return;
+  }
+  o.forEachSample(m, y, [&](const std::uint8_t* pa, const std::uint8_t* pb, int off) {
+    const Num a = get(pa, m), b = get(pb, m);
+    Num r;
+    if (kind == Kind::MulScale) {
+      r = refMulScale(a, b, m);
+    } else if (kind == Kind::Mul) {
+      r = refMul(a, b, s, m);
+    } else if (m.constant && f32) {
+      r.f[0] = float(b.f[0]) * (1.0f / float(a.f[0]));
+    } else if (m.constant && fc32) {
+      const float re = float(a.f[0]), im = float(a.f[1]), t = re * re + im * im;
+      Num w;
+      w.f[0] = re / t, w.f[1] = -im / t;
+      r = mulFloat<float>(w, b, true);
+    } else if (m.constant && u8 && ch == 1) {
+      const int sc = std::max(-32, std::min(32, s));
+      const float mult = std::ldexp(1.0f, -sc) * reciprocal6(int(a.i[0]));
+      float p = float(b.i[0]) * mult;
+      if (mult > 1.0f && p > 255.0f) p = 255.0f;
+      r.i[0] = roundFloatHalf(p);
+    } else {
+      r = refDiv(b, a, s, m, zero);
     }
+    put(row + off, r, m);
+  });
+  // In place, 32f MulC on AC4 rewrites alpha as alpha times 1.
+  if (m.constant && m.inPlace && m.layout == "AC4" && f32) {
+    Num one;
+    one.f[0] = 1.0;
+    for (int x = 0; x < width; ++x) {
+      const int off = (x * 4 + 3) * 4;
+      put(row + off, mulFloat<float>(one, get(o.dst->row(y) + off, m), false), m);
+    }
+  }
 }
 
 std::vector<int> scalesFor(const Member& m) {
-  if (m.t.isFloat || m.kind == Kind::MulScale) return {0};
-  if (m.kind == Kind::Div) {
+  if (m.t.isFloat || kindOf(m) == Kind::MulScale) return {0};
+  if (kindOf(m) == Kind::Div) {
     if (m.type == "8u") return {-20, -16, -15, -7, -1, 0, 1, 3, 8, 9};
     if (m.type == "16u") return {-33, -32, -31, -5, -1, 0, 1, 7, 16, 17, 20};
     if (m.type == "16s") return {-200, -20, -3, -1, 0, 1, 5, 14, 20, 200};
@@ -320,152 +260,12 @@ std::vector<int> scalesFor(const Member& m) {
   return {0, 1, 2, 3, 8, pos - 1, pos, pos + 1, pos + 7, -1, -2, neg + 1, neg, neg - 1, neg - 9};
 }
 
-struct Trial {
-  int width, height, scale;
-};
-
-void runTrial(const Member& m, const Trial& tr, std::mt19937& rng, int threads) {
-  const int sampleBytes = m.t.partBytes * m.t.parts;
-  const int ch = m.vector ? 1 : m.channels, used = m.vector ? 1 : m.used;
-  const int pixelBytes = sampleBytes * ch;
-  const int h = m.vector ? 1 : tr.height;
-  auto pad = [&] { return int(rng() % 9) * m.t.partBytes; };  // every phase of alignment
-  const int nsrc = m.constant ? 1 : 2;
-  std::vector<std::unique_ptr<TestImage>> src;
-  for (int i = 0; i < nsrc; ++i) {
-    src.push_back(std::make_unique<TestImage>(tr.width, h, pixelBytes, pad(), pad(),
-                                              rng() % 2 ? Place::Back : Place::Front, rng()));
-    fillSamples(*src.back(), m, rng, false);
-  }
-  std::unique_ptr<TestImage> dstOwn;
-  TestImage* dst = m.inPlace ? src.back().get() : nullptr;
-  if (!m.inPlace) {
-    dstOwn = std::make_unique<TestImage>(tr.width, h, pixelBytes, pad(), pad(), Place::Back, rng());
-    dst = dstOwn.get();
-  }
-  // Constants: never zero for DivC (a zero constant is an error, tested apart).
-  std::vector<std::uint8_t> value(4 * sampleBytes);
-  {
-    TestImage v(4, 1, sampleBytes, 0, 0, Place::Front, rng());
-    fillSamples(v, m, rng, m.kind == Kind::Div);
-    std::memcpy(value.data(), v.row(0), value.size());
-  }
-
-  std::vector<std::vector<std::uint8_t>> srcBefore;
-  for (auto& s : src) srcBefore.push_back(s->snapshot());
-  const auto dstBefore = dst->snapshot();
-  std::vector<std::vector<std::uint8_t>> expect(h, std::vector<std::uint8_t>(dst->rowBytes()));
-  bool zero = false;
-  const bool float32Div = m.kind == Kind::Div && !m.constant && m.type == "32f";
-  for (int y = 0; y < h; ++y) {
-    std::memcpy(expect[y].data(), dst->row(y), dst->rowBytes());
-    const std::uint8_t* img = (m.constant ? src[0] : src.back())->row(y);
-    if (float32Div) {
-      // Rows (or, in AC4, each pixel's three samples) in groups.
-      const float* den = reinterpret_cast<const float*>(src[0]->row(y));
-      const float* num = reinterpret_cast<const float*>(img);
-      float* res = reinterpret_cast<float*>(expect[y].data());
-      const float* out = reinterpret_cast<const float*>(dst->row(y));
-      if (used == ch)
-        refDiv32fRow(den, num, res, out, tr.width * ch, zero);
-      else
-        for (int x = 0; x < tr.width; ++x) refDiv32fRow(den + 4 * x, num + 4 * x, res + 4 * x, out + 4 * x, 3, zero);
-      continue;
-    }
-    for (int x = 0; x < tr.width; ++x)
-      for (int c = 0; c < used; ++c) {
-        const int off = (x * ch + c) * sampleBytes;
-        const Num a = get(m.constant ? value.data() + c * sampleBytes : src[0]->row(y) + off, m);
-        const Num b = get(img + off, m);
-        Num r;
-        if (m.kind == Kind::MulScale) {
-          r = refMulScale(a, b, m);
-        } else if (m.kind == Kind::Mul) {
-          r = refMul(a, b, tr.scale, m);
-        } else if (m.constant && m.type == "32f") {
-          r.f[0] = float(b.f[0]) * (1.0f / float(a.f[0]));
-        } else if (m.constant && m.type == "32fc") {
-          const float re = float(a.f[0]), im = float(a.f[1]), t = re * re + im * im;
-          Num w;
-          w.f[0] = re / t, w.f[1] = -im / t;
-          r = mulFloat<float>(w, b, true);
-        } else if (m.constant && m.type == "8u" && used == 1 && ch == 1) {
-          const int s = std::max(-32, std::min(32, tr.scale));
-          const float mult = std::ldexp(1.0f, -s) * reciprocal6(int(a.i[0]));
-          float p = float(b.i[0]) * mult;
-          if (mult > 1.0f && p > 255.0f) p = 255.0f;
-          r.i[0] = roundFloatHalf(p);
-        } else {
-          r = refDiv(b, a, tr.scale, m, zero);
-        }
-        put(expect[y].data() + off, r, m);
-      }
-    // In place, 32f MulC on AC4 rewrites alpha as alpha times 1.
-    if (m.constant && m.inPlace && m.layout == "AC4" && m.type == "32f") {
-      Num one;
-      one.f[0] = 1.0;
-      for (int x = 0; x < tr.width; ++x) {
-        const int off = (x * 4 + 3) * 4;
-        put(expect[y].data() + off, mulFloat<float>(one, get(dst->row(y) + off, m), false), m);
-      }
-    }
-  }
-
-  SweepArgs a{};
-  int k = 0;
-  if (m.constant) {
-    a.img[k] = src[0]->roi(), a.step[k++] = src[0]->step();
-    if (!m.inPlace) a.img[k] = dst->roi(), a.step[k++] = dst->step();
-  } else {
-    for (auto& s : src) a.img[k] = s->roi(), a.step[k++] = s->step();
-    if (!m.inPlace) a.img[k] = dst->roi(), a.step[k++] = dst->step();
-  }
-  a.roi = {tr.width, h};
-  a.length = tr.width;
-  a.scale = tr.scale;
-  a.value = value.data();
-
-  threads_omp_of_n_pxl = threads;
-  const PxlStatus st = m.e->call(a);
-  const PxlStatus want = m.kind == Kind::Div && zero ? pxlStsDivByZero : pxlStsOk;
-  ASSERT_EQ(st, want) << m.e->name << " scale " << tr.scale;
-  for (int y = 0; y < h; ++y) {
-    if (std::memcmp(expect[y].data(), dst->row(y), dst->rowBytes()) == 0) continue;
-    // NaNs of any payload are the same result.
-    bool same = m.t.isFloat;
-    for (int i = 0; same && i < dst->rowBytes(); i += m.t.partBytes) {
-      const Num e1 = get(expect[y].data() + i - i % sampleBytes, m), g1 = get(dst->row(y) + i - i % sampleBytes, m);
-      const int part = (i % sampleBytes) / m.t.partBytes;
-      same = (std::isnan(e1.f[part]) && std::isnan(g1.f[part])) ||
-             std::memcmp(expect[y].data() + i, dst->row(y) + i, m.t.partBytes) == 0;
-    }
-    ASSERT_TRUE(same) << m.e->name << " row " << y << " width " << tr.width << " scale " << tr.scale << " threads "
-                      << threads;
-  }
-  ASSERT_TRUE(dst->outsideUnchanged(dstBefore)) << m.e->name << " wrote outside the ROI";
-  for (std::size_t i = 0; i + (m.inPlace ? 1 : 0) < src.size(); ++i)
-    ASSERT_TRUE(src[i]->unchanged(srcBefore[i])) << m.e->name << " wrote a source";
-}
-
 TEST(MulDiv, EveryMemberFollowsItsRuleAtEveryScaleLengthAndThreadCount) {
-  std::mt19937 rng(77);
-  const int saved = threads_omp_of_n_pxl;
-  int members = 0;
-  for (const SweepEntry& e : kSweepTable) {
-    Member m;
-    if (!parse(e, m)) continue;
-    ++members;
-    for (int s : scalesFor(m)) {
-      for (int w : {1, 2, 3, 5, 7, 8, 9, 15, 16, 17, 23, 31, 33, 40, 64 + int(rng() % 64)})
-        runTrial(m, {w, 1 + int(rng() % 3), s}, rng, 1);
-      if (HasFatalFailure()) return;
-    }
-    // Big enough to open every gate: the same bytes for any number of threads.
-    const std::vector<int> scales = scalesFor(m);
-    for (int threads : {1, 2, 3, 7}) runTrial(m, {150, 97, scales[rng() % scales.size()]}, rng, threads);
-    if (HasFatalFailure()) return;
-  }
-  threads_omp_of_n_pxl = saved;
+  pxltest::diff::Family f{"Mul|Div", 77, {1, 2, 3, 5, 7, 8, 9, 15, 16, 17, 23, 31, 33, 40}, scalesFor, refRow};
+  // Constants never zero for DivC (a zero constant is an error, tested apart).
+  f.constants = [](const Member& m, std::mt19937& rng) { return pxltest::diff::constants(m, rng, kindOf(m) == Kind::Div); };
+  const int members = pxltest::diff::runEveryMember(f);
+  if (HasFatalFailure()) return;
   EXPECT_EQ(members, 262);
 }
 

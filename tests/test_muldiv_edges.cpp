@@ -20,23 +20,16 @@ namespace {
 using pxltest::Place;
 using pxltest::TestImage;
 
-Pxl8u mul8(Pxl8u a, Pxl8u b, int scale) {
-  Pxl8u d = 77;
-  EXPECT_EQ(pxlStsOk, pxliMul_8u_C1RSfs(&a, 1, &b, 1, &d, 1, {1, 1}, scale));
+// a op b through a C1 member on one pixel; the destination starts at 77.
+template <class T>
+T onePixel(PxlStatus (*f)(const T*, int, const T*, int, T*, int, PxlSize, int), T a, T b, int scale) {
+  T d = 77;
+  EXPECT_EQ(pxlStsOk, f(&a, sizeof(T), &b, sizeof(T), &d, sizeof(T), {1, 1}, scale));
   return d;
 }
-
-Pxl16s mul16s(Pxl16s a, Pxl16s b, int scale) {
-  Pxl16s d = 77;
-  EXPECT_EQ(pxlStsOk, pxliMul_16s_C1RSfs(&a, 2, &b, 2, &d, 2, {1, 1}, scale));
-  return d;
-}
-
-Pxl16u mul16u(Pxl16u a, Pxl16u b, int scale) {
-  Pxl16u d = 77;
-  EXPECT_EQ(pxlStsOk, pxliMul_16u_C1RSfs(&a, 2, &b, 2, &d, 2, {1, 1}, scale));
-  return d;
-}
+Pxl8u mul8(Pxl8u a, Pxl8u b, int scale) { return onePixel(pxliMul_8u_C1RSfs, a, b, scale); }
+Pxl16s mul16s(Pxl16s a, Pxl16s b, int scale) { return onePixel(pxliMul_16s_C1RSfs, a, b, scale); }
+Pxl16u mul16u(Pxl16u a, Pxl16u b, int scale) { return onePixel(pxliMul_16u_C1RSfs, a, b, scale); }
 
 TEST(MulDivEdges, EachLimitAndOneBeyond) {
   // 8u: 255 * 255 = 65025.
@@ -75,11 +68,7 @@ TEST(MulDivEdges, TiesGoToEven) {
   EXPECT_EQ(mul16s(-1, 1, 1), 0);
   EXPECT_EQ(mul16s(-5, 1, 1), -2);
   // Division: 2 over 5 is 0, 5 over 2 is 2, 7 over 2 is 4.
-  auto div8 = [](Pxl8u den, Pxl8u num, int scale) {
-    Pxl8u d = 77;
-    EXPECT_EQ(pxlStsOk, pxliDiv_8u_C1RSfs(&den, 1, &num, 1, &d, 1, {1, 1}, scale));
-    return d;
-  };
+  auto div8 = [](Pxl8u den, Pxl8u num, int scale) { return onePixel(pxliDiv_8u_C1RSfs, den, num, scale); };
   EXPECT_EQ(div8(5, 2, 0), 0);
   EXPECT_EQ(div8(2, 5, 0), 2);
   EXPECT_EQ(div8(2, 7, 0), 4);
