@@ -2,6 +2,9 @@
 // its vertical axis (each row reversed) or both. One template serves every
 // sample type and layout; a pixel moves as a unit, so the samples inside a
 // pixel keep their order, and AC4 moves three samples and leaves alpha.
+#include <algorithm>
+
+#include "move/copy.h"
 #include "move/rearrange.h"
 
 namespace pxl::move {
@@ -10,6 +13,16 @@ namespace {
 
 inline bool knownAxis(int axis) {
   return axis == pxlAxsHorizontal || axis == pxlAxsVertical || axis == pxlAxsBoth;
+}
+
+// The bytes an image's rows span, whatever the sign of its step.
+struct Span {
+  const std::uint8_t *lo, *hi;
+};
+inline Span spanOf(const void* p, int step, int h, std::size_t rowBytes) {
+  const auto* first = static_cast<const std::uint8_t*>(p);
+  const auto* last = first + std::ptrdiff_t(step) * (h - 1);
+  return {std::min(first, last), std::max(first, last) + rowBytes};
 }
 
 }  // namespace
@@ -21,6 +34,19 @@ PxlStatus mirror(const T* src, int srcStep, T* dst, int dstStep, PxlSize roi, in
   if (badSize(roi)) return pxlStsSize;
   if (!knownAxis(axis)) return pxlStsMirrorAxis;
   const int w = roi.width, h = roi.height;
+  if constexpr (Pixel<T, L>::kWhole) {
+    // Reversing the row order of whole pixels between separate images is a
+    // copy of each row: the copy rows of Copy, streamed when large.
+    const std::size_t n = std::size_t(w) * Pixel<T, L>::kBytes;
+    const Span a = spanOf(src, srcStep, h, n), b = spanOf(dst, dstStep, h, n);
+    if (axis == pxlAxsHorizontal && (a.hi <= b.lo || b.hi <= a.lo)) {
+      const bool stream = n * std::size_t(h) >= kStreamBytes;
+      for (int i = 0; i < h; ++i)
+        copyRow(bytesOf(rowAt(dst, dstStep, h - 1 - i)), bytesOf(rowAt(src, srcStep, i)), n, stream);
+      if (stream) simd::storeFence();
+      return pxlStsOk;
+    }
+  }
   for (int i = 0; i < h; ++i) {
     const T* s = rowAt(src, srcStep, i);
     switch (axis) {
