@@ -223,6 +223,22 @@ inline void divGroup(const float* den, const float* num, float* out, bool& zero)
   divGroupWithZero<G>(den, num, out, zero);
 }
 
+// Two groups of 8 with one test for a zero divisor in either; if there is
+// one, each group is done on its own as above.
+template <bool Stream>
+inline void divTwoGroups(const float* den, const float* num, float* out, bool& zero) {
+#if defined(__AVX__)
+  const F8 d0 = simd::load<F8>(den), d1 = simd::load<F8>(den + 8);
+  if (!simd::anyLane((d0 == 0.0f) | (d1 == 0.0f))) {
+    putQuotients<Stream>(out, refinedQuotient(simd::load<F8>(num), d0));
+    putQuotients<Stream>(out + 8, refinedQuotient(simd::load<F8>(num + 8), d1));
+    return;
+  }
+#endif
+  divGroup<8, Stream>(den, num, out, zero);
+  divGroup<8, Stream>(den + 8, num + 8, out + 8, zero);
+}
+
 // The group that starts at out + i.
 inline int groupAt(const float* out, int i, int len) {
   const std::uintptr_t a = reinterpret_cast<std::uintptr_t>(out + i);
@@ -255,6 +271,7 @@ inline bool divRow(const float* den, const float* num, float* out, int len, int)
     divGroupOf(g, den + i, num + i, out + i, zero);
     i += g;
   }
+  for (; i + 16 <= len; i += 16) divTwoGroups<Stream>(den + i, num + i, out + i, zero);
   for (; i + 8 <= len; i += 8) divGroup<8, Stream>(den + i, num + i, out + i, zero);
   while (i < len) {
     const int g = groupAt(out, i, len);
