@@ -120,4 +120,5 @@ awk -v b0="$busy0" -v b1="$busy1" -v st0="$steal0" -v st1="$steal1" -v hz="$hz" 
 
 # ---------------------------------------------------------------- table
 command="PXL_ISA=$isa scripts/bench.sh"
+[ "$out" = BENCHMARKS.md ] || command="PXL_BENCH_OUT=$out $command"
 python3 scripts/bench_table.py "${jsons[@]}" --out "$out" --command "$command" --run-stats "$stats"
