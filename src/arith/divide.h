@@ -180,16 +180,32 @@ template <int G>
   for (int k = 0; k < G; ++k) out[k] = divSingle(num[k], den[k], zero);
 }
 
-// Whole registers of quotients to out; with Stream around the cache (out is
-// then aligned to the register, as the groups are).
-template <bool Stream, class V>
-inline void putQuotients(float* out, V q) {
-  if constexpr (Stream) {
-    if constexpr (sizeof(V) == 32) _mm256_stream_ps(out, (__m256)q);
-    else _mm_stream_ps(out, (__m128)q);
-  } else {
-    simd::store(out, q);
+// The widest register of floats: F8 needs only AVX for its reciprocal.
+#if defined(__AVX__)
+using FWide = F8;
+#else
+using FWide = F4;
+#endif
+
+// K registers of V: if no divisor among them is zero, writes their refined
+// quotients (with Stream around the cache; out is then aligned, as the
+// groups are) and returns true; else writes nothing and returns false. One
+// compare and one mask test for all K.
+template <class V, int K, bool Stream = false>
+inline bool refinedBlock(const float* den, const float* num, float* out) {
+  constexpr int N = int(sizeof(V) / sizeof(float));
+  V d[K];
+  auto zeros = (d[0] = simd::load<V>(den)) == 0.0f;
+  for (int k = 1; k < K; ++k) zeros |= (d[k] = simd::load<V>(den + k * N)) == 0.0f;
+  if (simd::anyLane(zeros)) return false;
+  for (int k = 0; k < K; ++k) {
+    const V q = refinedQuotient(simd::load<V>(num + k * N), d[k]);
+    if constexpr (Stream)
+      simd::streamBlock(out + k * N, q);
+    else
+      simd::store(out + k * N, q);
   }
+  return true;
 }
 
 // One group of G samples: G of 8 and 4 in registers, with one test of the
@@ -198,20 +214,9 @@ inline void putQuotients(float* out, V q) {
 template <int G, bool Stream = false>
 inline void divGroup(const float* den, const float* num, float* out, bool& zero) {
   if constexpr (G == 4) {
-    const F4 d = simd::load<F4>(den);
-    if (!simd::anyLane(d == 0.0f)) return simd::store(out, refinedQuotient(simd::load<F4>(num), d));
+    if (refinedBlock<F4, 1>(den, num, out)) return;
   } else if constexpr (G == 8) {
-#if defined(__AVX__)
-    const F8 d = simd::load<F8>(den);
-    if (!simd::anyLane(d == 0.0f)) return putQuotients<Stream>(out, refinedQuotient(simd::load<F8>(num), d));
-#else
-    const F4 d0 = simd::load<F4>(den), d1 = simd::load<F4>(den + 4);
-    if (!simd::anyLane((d0 == 0.0f) | (d1 == 0.0f))) {
-      putQuotients<Stream>(out, refinedQuotient(simd::load<F4>(num), d0));
-      putQuotients<Stream>(out + 4, refinedQuotient(simd::load<F4>(num + 4), d1));
-      return;
-    }
-#endif
+    if (refinedBlock<FWide, 8 / (sizeof(FWide) / 4), Stream>(den, num, out)) return;
   } else {
     bool any = false;
     for (int k = 0; k < G; ++k) any |= den[k] == 0.0f;
@@ -227,14 +232,7 @@ inline void divGroup(const float* den, const float* num, float* out, bool& zero)
 // one, each group is done on its own as above.
 template <bool Stream>
 inline void divTwoGroups(const float* den, const float* num, float* out, bool& zero) {
-#if defined(__AVX__)
-  const F8 d0 = simd::load<F8>(den), d1 = simd::load<F8>(den + 8);
-  if (!simd::anyLane((d0 == 0.0f) | (d1 == 0.0f))) {
-    putQuotients<Stream>(out, refinedQuotient(simd::load<F8>(num), d0));
-    putQuotients<Stream>(out + 8, refinedQuotient(simd::load<F8>(num + 8), d1));
-    return;
-  }
-#endif
+  if (refinedBlock<FWide, 16 / (sizeof(FWide) / 4), Stream>(den, num, out)) return;
   divGroup<8, Stream>(den, num, out, zero);
   divGroup<8, Stream>(den + 8, num + 8, out + 8, zero);
 }
@@ -315,7 +313,7 @@ PxlStatus divMember(const T* den, int denStep, const T* num, int numStep, T* dst
     };
     // Only 32f rows have a streaming form; the bytes are the same either way.
     if constexpr (std::is_same_v<T, Pxl32f> && L == Lay::C1)
-      move::streamedRows(std::size_t(roi.width) * sizeof(T) * std::size_t(roi.height), roi.height, row);
+      move::streamedRows(imageBytes<L, T>(roi), roi.height, row);
     else
       for (int y = 0; y < roi.height; ++y) row(y, std::false_type{});
     return zero ? pxlStsDivByZero : pxlStsOk;

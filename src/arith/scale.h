@@ -254,23 +254,13 @@ inline int saturatingRun(const A& a, const R* b, R* d, int len, int s) {
   }
 }
 
-// With Stream, the samples before the first register boundary of d, where
-// streaming stores can start; -1 where none is ever reached (a destination
-// not aligned to its sample size), which then is not streamed.
-template <class R>
-inline int streamPeel(const R* d, int len) {
-  const std::uintptr_t mis = reinterpret_cast<std::uintptr_t>(d) % simd::kBytes;
-  if (mis % sizeof(R) != 0) return -1;
-  return std::min(len, int((simd::kBytes - mis) % simd::kBytes / sizeof(R)));
-}
-
 // Two operands, len samples. With Stream the whole blocks go around the
 // cache, and the row ends with a store fence, so that a row written by any
 // thread of a region is complete when the row returns.
 template <class Op, Path P, bool Stream = false, class R>
 void rowBinary(const R* a, const R* b, R* d, int len, int s) {
   if constexpr (Stream) {
-    const int peel = streamPeel(d, len);
+    const int peel = simd::streamPeel(d, len);
     if (peel < 0) return rowBinary<Op, P>(a, b, d, len, s);
     rowBinary<Op, P>(a, b, d, peel, s);
     a += peel, b += peel, d += peel, len -= peel;
@@ -307,7 +297,7 @@ template <class Op, Path P, class R, int Period, bool Stream = false>
 void rowConst(const R* src, const Pattern<R, Period>& pat, R* d, int len, int s) {
   static_assert(!Stream || Period == 1, "a pattern's phase would not survive the peel");
   if constexpr (Stream) {
-    const int peel = streamPeel(d, len);
+    const int peel = simd::streamPeel(d, len);
     if (peel < 0) return rowConst<Op, P, R, Period>(src, pat, d, len, s);
     rowConst<Op, P, R, Period>(src, pat, d, peel, s);
     src += peel, d += peel, len -= peel;

@@ -68,7 +68,7 @@ inline bool overlapsElsewhere(const R* d, const R* s, std::size_t len) {
 // pays a row's start-up cost once.
 template <Lay L, class T>
 inline PxlSize serialShape(const T* a, int aStep, const T* b, int bStep, const T* d, int dStep, PxlSize roi) {
-  const std::size_t rowBytes = std::size_t(roi.width) * channelsOf(L) * sizeof(T);
+  const std::size_t rowBytes = rowBytesOf<L, T>(roi.width);
   const PxlSize one = gaplessShape(roi, rowBytes, aStep, bStep, dStep);
   if (one.height != 1 || roi.height == 1) return roi;
   const std::size_t all = rowBytes * std::size_t(roi.height);
@@ -76,14 +76,6 @@ inline PxlSize serialShape(const T* a, int aStep, const T* b, int bStep, const T
   const auto* aa = reinterpret_cast<const char*>(a);
   const auto* ab = reinterpret_cast<const char*>(b);
   return overlapsElsewhere(ad, aa, all) || overlapsElsewhere(ad, ab, all) ? roi : one;
-}
-
-// Whether the rows of an image write around the cache: its destination
-// cannot stay cached anyway (see kStreamBytes). Each streaming row ends
-// with its own store fence, so this holds on any thread of a region.
-template <class T, Lay L>
-inline bool streams(PxlSize roi) {
-  return std::size_t(roi.width) * channelsOf(L) * sizeof(T) * std::size_t(roi.height) >= move::kStreamBytes;
 }
 
 // Complex samples whose parts interact (a product): one sample at a time.
@@ -130,7 +122,9 @@ PxlStatus binaryMember(const T* a, int aStep, const T* b, int bStep, T* d, int d
     if (path == Path::Above) return fillZero<T, L>(d, dStep, roi);
 
     const GateKey key{Op::kFam, typeTagOf<T>(), L, inPlace};
-    const bool stream = streams<T, L>(roi);
+    // Streaming rows end with their own store fence (see rowBinary), so
+    // that this holds on any thread of a region.
+    const bool stream = move::streams(imageBytes<L, T>(roi));
     withPath<R>(path, [&](auto pc) {
       constexpr Path P = decltype(pc)::value;
       const bool region = regionOpens(key, bitOf(P), roi) && mayFork();
@@ -187,7 +181,7 @@ void constRows(const T* src, int srcStep, const PartOf<T>* values, T* dst, int d
     const bool region = regionOpens(key, bitOf(P), roi) && mayFork();
     const PxlSize walk = region ? roi : serialShape<L>(src, srcStep, src, srcStep, dst, dstStep, roi);
     const int len = walk.width * Period;
-    const bool stream = Period == 1 && streams<T, L>(roi);
+    const bool stream = Period == 1 && move::streams(imageBytes<L, T>(roi));
     rowsShapeA(walk.height, region, [&](int y) {
       const R* s = reinterpret_cast<const R*>(rowAt(src, srcStep, y));
       R* d = reinterpret_cast<R*>(rowAt(dst, dstStep, y));

@@ -46,12 +46,23 @@ inline bool gapless(int step, std::size_t rowBytes) { return step > 0 && std::si
 
 // A serial walk over images whose rows all follow one another with no gap
 // is one row of all the pixels, so that a narrow image pays a row's start-up
-// cost once. Returns the shape to walk: the ROI, or one long row.
+// cost once. Returns the shape to walk: the ROI, or one long row, as long as
+// its bytes (and so its samples, whatever the layout) fit an int.
 template <class... S>
 inline PxlSize gaplessShape(PxlSize roi, std::size_t rowBytes, S... steps) {
-  if ((gapless(steps, rowBytes) && ...) && std::int64_t(roi.width) * roi.height <= INT32_MAX)
+  if ((gapless(steps, rowBytes) && ...) && rowBytes * std::size_t(roi.height) <= std::size_t(INT32_MAX))
     return {roi.width * roi.height, 1};
   return roi;
+}
+
+// Bytes of the ROI of an image of layout L and sample type T.
+template <Lay L, class T>
+inline std::size_t rowBytesOf(int width) {
+  return std::size_t(width) * channelsOf(L) * sizeof(T);
+}
+template <Lay L, class T>
+inline std::size_t imageBytes(PxlSize roi) {
+  return rowBytesOf<L, T>(roi.width) * std::size_t(roi.height);
 }
 
 // Channel folding: a C3 or C4 member that hands over to its C1 member looks

@@ -28,11 +28,14 @@ PxlStatus copyImage(const T* src, int srcStep, T* dst, int dstStep, PxlSize roi)
     for (int y = 0; y < roi.height; ++y) stridedRow<4, 4, 3>(rowAt(src, srcStep, y), rowAt(dst, dstStep, y), roi.width);
   } else {
     std::size_t n = std::size_t(roi.width) * ch * sizeof(T);
-    const bool stream = n * std::size_t(roi.height) >= kStreamBytes;
+    const std::size_t all = n * std::size_t(roi.height);
     int rows = roi.height;
-    if (srcStep == dstStep && gapless(srcStep, n)) n *= std::size_t(rows), rows = 1;
-    for (int y = 0; y < rows; ++y) copyRow(bytesOf(rowAt(dst, dstStep, y)), bytesOf(rowAt(src, srcStep, y)), n, stream);
-    if (stream) simd::storeFence();
+    if (srcStep == dstStep && gapless(srcStep, n)) n = all, rows = 1;
+    // By value: pointers captured by reference would be loaded again after
+    // each outside call that copies a row.
+    streamedRows(all, rows, [=](int y, auto stream) {
+      copyRow(bytesOf(rowAt(dst, dstStep, y)), bytesOf(rowAt(src, srcStep, y)), n, stream);
+    });
   }
   return pxlStsOk;
 }

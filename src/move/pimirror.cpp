@@ -40,10 +40,11 @@ PxlStatus mirror(const T* src, int srcStep, T* dst, int dstStep, PxlSize roi, in
     const std::size_t n = std::size_t(w) * Pixel<T, L>::kBytes;
     const Span a = spanOf(src, srcStep, h, n), b = spanOf(dst, dstStep, h, n);
     if (axis == pxlAxsHorizontal && (a.hi <= b.lo || b.hi <= a.lo)) {
-      const bool stream = n * std::size_t(h) >= kStreamBytes;
-      for (int i = 0; i < h; ++i)
+      // By value: the row copy is an outside call, and pointers captured
+      // by reference would be loaded again after each one.
+      streamedRows(n * std::size_t(h), h, [=](int i, auto stream) {
         copyRow(bytesOf(rowAt(dst, dstStep, h - 1 - i)), bytesOf(rowAt(src, srcStep, i)), n, stream);
-      if (stream) simd::storeFence();
+      });
       return pxlStsOk;
     }
   }

@@ -11,9 +11,9 @@ template <class T>
 PxlStatus vectorCopy(const T* src, T* dst, int length) {
   if (PxlStatus st = checkVector(anyNull(src, dst), length)) return st;
   const std::size_t n = std::size_t(length) * sizeof(T);
-  const bool stream = n >= kStreamBytes;
-  copyRow(reinterpret_cast<std::uint8_t*>(dst), reinterpret_cast<const std::uint8_t*>(src), n, stream);
-  if (stream) simd::storeFence();
+  streamedRows(n, 1, [&](int, auto stream) {
+    copyRow(reinterpret_cast<std::uint8_t*>(dst), reinterpret_cast<const std::uint8_t*>(src), n, stream);
+  });
   return pxlStsOk;
 }
 

@@ -20,13 +20,15 @@ namespace pxl::move {
 // The choice never changes a result.
 inline constexpr std::size_t kStreamBytes = std::size_t(8) << 20;
 
+inline bool streams(std::size_t destBytes) { return destBytes >= kStreamBytes; }
+
 // Calls row(y, stream) for every row, stream a compile-time truth value that
 // says whether the rows write around the cache: a destination of
 // destBytes at least kStreamBytes does, in place as well as not, and is
 // fenced once at the end.
 template <class RowFn>
 void streamedRows(std::size_t destBytes, int height, RowFn&& row) {
-  if (destBytes >= kStreamBytes) {
+  if (streams(destBytes)) {
     for (int y = 0; y < height; ++y) row(y, std::true_type{});
     simd::storeFence();
   } else {

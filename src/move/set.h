@@ -24,13 +24,16 @@ void fillImage(const T* vals, T* dst, int dstStep, PxlSize roi) {
   } else {
     const FillPattern<ch * int(sizeof(T))> pat(vals);
     std::size_t n = std::size_t(roi.width) * ch * sizeof(T);
-    const bool stream = n * std::size_t(roi.height) >= kStreamBytes;
+    const std::size_t all = n * std::size_t(roi.height);
     int rows = roi.height;
     // Only the 8-bit single-channel fill walks a gapless image as one row.
     if constexpr (L == Lay::C1 && sizeof(T) == 1)
-      if (gapless(dstStep, n)) n *= std::size_t(rows), rows = 1;
-    for (int y = 0; y < rows; ++y) fillRow(bytesOf(rowAt(dst, dstStep, y)), pat, n, stream);
-    if (stream) simd::storeFence();
+      if (gapless(dstStep, n)) n = all, rows = 1;
+    // The row's place by value: by reference it would be loaded again after
+    // each outside call that fills a row.
+    streamedRows(all, rows, [&pat, dst, dstStep, n](int y, auto stream) {
+      fillRow(bytesOf(rowAt(dst, dstStep, y)), pat, n, stream);
+    });
   }
 }
 
@@ -108,9 +111,7 @@ PxlStatus vectorSet(T value, T* dst, int length) {
   if (PxlStatus st = checkVector(dst == nullptr, length)) return st;
   const FillPattern<int(sizeof(T))> pat(&value);
   const std::size_t n = std::size_t(length) * sizeof(T);
-  const bool stream = n >= kStreamBytes;
-  fillRow(reinterpret_cast<std::uint8_t*>(dst), pat, n, stream);
-  if (stream) simd::storeFence();
+  streamedRows(n, 1, [&](int, auto stream) { fillRow(reinterpret_cast<std::uint8_t*>(dst), pat, n, stream); });
   return pxlStsOk;
 }
 

@@ -199,9 +199,9 @@ void alphaLanes(const Operand<T>& o1, const Operand<T>& o2, T* d, int n, Rule ru
     using V = simd::Reg<std::uint16_t>;
     constexpr int N = simd::kBytes;
     if (stream) {
-      const int peel = int((N - reinterpret_cast<std::uintptr_t>(d) % N) % N);
+      const int peel = simd::streamPeel(d, n);
       if (K != AlphaLanes::Fourth || peel % 4 == 0) {
-        for (; i < peel && i < n; ++i) lane(i);
+        for (; i < peel; ++i) lane(i);
       } else {
         stream = false;
       }

@@ -99,11 +99,9 @@ void mapRow(const T* s, T* d, int n, F&& f, const Ops&... ops) {
   };
   bool stream = Stream;
   if constexpr (Stream) {
-    const std::uintptr_t mis = reinterpret_cast<std::uintptr_t>(d) % simd::kBytes;
-    if (mis % sizeof(T) != 0)
-      stream = false;
-    else
-      for (const int peel = std::min(n, int((simd::kBytes - mis) % simd::kBytes / sizeof(T))); i < peel; ++i) scalar();
+    const int peel = simd::streamPeel(d, n);
+    stream = peel >= 0;
+    for (; i < peel; ++i) scalar();
   }
   // After the peel every block starts at the same place in the pixel.
   using M = decltype(V{} < V{});
@@ -126,39 +124,16 @@ void mapRow(const T* s, T* d, int n, F&& f, const Ops&... ops) {
 
 using move::streamedRows;
 
-// Bytes of the destination of a member of layout L.
-template <Lay L, class T>
-std::size_t imageBytes(PxlSize roi) {
-  return std::size_t(roi.width) * channelsOf(L) * sizeof(T) * std::size_t(roi.height);
-}
-
 // The row of a member of layout L: width pixels.
 template <Lay L, bool Stream = false, class T, class F, class... Ops>
 void mapPixels(const T* s, T* d, int width, F&& f, const Ops&... ops) {
   mapRow<channelsOf(L), L == Lay::AC4, Stream>(s, d, width * channelsOf(L), f, ops...);
 }
 
-// The shape to walk: an image whose rows all follow one another with no gap
-// (each of its images) is one row of all its pixels, so that it pays a
-// row's start-up cost once; a pixel's place in its row never matters here.
-template <Lay L>
-PxlSize walkShape(PxlSize roi, bool allGapless) {
-  if (allGapless && roi.height > 1 && std::int64_t(roi.width) * roi.height * channelsOf(L) <= INT32_MAX)
-    return {roi.width * roi.height, 1};
-  return roi;
-}
-
-// Whether images of layout L and type T with these steps are gapless.
-template <Lay L, class T, class... S>
-bool gaplessRows(int width, S... steps) {
-  const std::size_t rowBytes = std::size_t(width) * channelsOf(L) * sizeof(T);
-  return (gapless(steps, rowBytes) && ...);
-}
-
 // mapPixels over every row of an image.
 template <Lay L, class T, class F, class... Ops>
 void mapImage(const T* s, int sStep, T* d, int dStep, PxlSize roi, F&& f, const Ops&... ops) {
-  roi = walkShape<L>(roi, gaplessRows<L, T>(roi.width, sStep, dStep));
+  roi = gaplessShape(roi, rowBytesOf<L, T>(roi.width), sStep, dStep);
   streamedRows(imageBytes<L, T>(roi), roi.height, [&](int y, auto stream) {
     mapPixels<L, decltype(stream)::value>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, ops...);
   });
@@ -189,10 +164,7 @@ void maskPixels(const T* s, Pxl8u* d, int width, F&& f, const Ops&... ops) {
   };
   int x = 0;
   if constexpr (kStream)
-    for (const int peel = std::min(width, int((simd::kBytes - reinterpret_cast<std::uintptr_t>(d) % simd::kBytes) %
-                                              simd::kBytes));
-         x < peel; ++x)
-      scalar(x);
+    for (const int peel = simd::streamPeel(d, width); x < peel; ++x) scalar(x);
 #pragma GCC unroll 2
   for (; x + K <= width; x += K) {
     if constexpr (Ch == 1) {
@@ -234,7 +206,7 @@ void maskPixels(const T* s, Pxl8u* d, int width, F&& f, const Ops&... ops) {
 // an image operand, or sStep for a constant.
 template <Lay L, class T, class F, class OpAt>
 void maskImage(const T* s, int sStep, Pxl8u* d, int dStep, PxlSize roi, F&& f, OpAt&& opAt, int opStep) {
-  roi = walkShape<L>(roi, gaplessRows<L, T>(roi.width, sStep, opStep) && gapless(dStep, std::size_t(roi.width)));
+  if (gapless(dStep, std::size_t(roi.width))) roi = gaplessShape(roi, rowBytesOf<L, T>(roi.width), sStep, opStep);
   if constexpr (L == Lay::C1 && sizeof(T) == 1) {
     streamedRows(std::size_t(roi.width) * std::size_t(roi.height), roi.height, [&](int y, auto stream) {
       maskPixels<L, decltype(stream)::value>(rowAt(s, sStep, y), rowAt(d, dStep, y), roi.width, f, opAt(y));

@@ -46,7 +46,7 @@ PxlStatus logicImages(const T* a, int aStep, const T* b, int bStep, T* d, int dS
   if (PxlStatus st = checkShape<Order::NTS>(roi, aStep, bStep, dStep)) return st;
   // No constant: all channels are alike, only AC4's alpha is special.
   const auto f = [](auto x, auto y) { return Op::apply(x, y); };
-  roi = walkShape<L>(roi, gaplessRows<L, T>(roi.width, aStep, bStep, dStep));
+  roi = gaplessShape(roi, rowBytesOf<L, T>(roi.width), aStep, bStep, dStep);
   streamedRows(imageBytes<L, T>(roi), roi.height, [&](int y, auto stream) {
     mapRow<1, L == Lay::AC4, decltype(stream)::value>(rowAt(a, aStep, y), rowAt(d, dStep, y),
                                                       roi.width * channelsOf(L), f, Row<T>{rowAt(b, bStep, y)});

@@ -34,15 +34,6 @@ inline PxlStatus checkAlpha(PxlSize roi, P... images) {
 
 inline bool badOperator(int code) { return code < 0 || code > 11; }
 
-// 8u destinations too large to stay in the cache are written around it (the
-// choice never changes a result); such a call ends with a store fence.
-template <class T, AlphaLay L>
-inline bool streamed(PxlSize roi) {
-  constexpr std::size_t samples = kPlanar<L> ? 4 : kSamples<L>;
-  return std::is_same_v<T, Pxl8u> &&
-         std::size_t(roi.width) * samples * std::size_t(roi.height) >= move::kStreamBytes;
-}
-
 template <class T>
 inline const T* planeRow(const T* const* planes, int k, int step, int y) {
   return rowAt(planes[k], step, y);
@@ -54,39 +45,51 @@ inline T* planeRow(T* const* planes, int k, int step, int y) {
 
 }  // namespace
 
-template <class T, AlphaLay L, class S, class D>
-PxlStatus alphaComp(S src1, int src1Step, S src2, int src2Step, D dst, int dstStep, PxlSize roi, int alphaType) {
+// Calls row(y, stream) for every row. 8u destinations too large to stay in
+// the cache are written around it (the choice never changes a result), and
+// the call then ends with a store fence.
+template <class T, AlphaLay L, class Row>
+void alphaRows(PxlSize roi, Row&& row) {
+  constexpr std::size_t samples = kPlanar<L> ? 4 : kSamples<L>;
+  const std::size_t streamed = std::is_same_v<T, Pxl8u> ? std::size_t(roi.width) * samples * std::size_t(roi.height) : 0;
+  move::streamedRows(streamed, roi.height, [&](int y, auto stream) { row(y, decltype(stream)::value); });
+}
+
+// The frame both compositions share: the checks, then row(y, rule, stream)
+// for every row, with the operator's rule fixed at compile time.
+template <class T, AlphaLay L, bool AlphaOnly, class S, class D, class Row>
+PxlStatus composeRows(S src1, S src2, D dst, PxlSize roi, int alphaType, Row&& row) {
   if (PxlStatus st = checkAlpha<L>(roi, src1, src2, dst)) return st;
   if (badOperator(alphaType)) return pxlStsAlphaOp;
-  const bool stream = streamed<T, L>(roi);
   withOperator(alphaType, [&](auto op, auto pre) {
-    constexpr int O = decltype(op)::value;
-    constexpr bool Pre = decltype(pre)::value;
-    const ComposeRule<T, O, false, Pre> rule;
-    for (int y = 0; y < roi.height; ++y) {
-      if constexpr (L == AlphaLay::AP4) {
-        const T* a1 = planeRow(src1, 3, src1Step, y);
-        const T* a2 = planeRow(src2, 3, src2Step, y);
-        for (int k = 0; k < 3; ++k)
-          alphaLanes<T, AlphaFrom::Plane, AlphaLanes::None>({planeRow(src1, k, src1Step, y), a1, 0},
-                                                            {planeRow(src2, k, src2Step, y), a2, 0},
-                                                            planeRow(dst, k, dstStep, y), roi.width, rule, stream);
-        alphaLanes<T, AlphaFrom::Self, AlphaLanes::All>({a1, nullptr, 0}, {a2, nullptr, 0},
-                                                        planeRow(dst, 3, dstStep, y), roi.width, rule, stream);
-      } else if constexpr (L == AlphaLay::AC1) {
-        alphaLanes<T, AlphaFrom::Self, AlphaLanes::All>({rowAt(src1, src1Step, y), nullptr, 0},
-                                                        {rowAt(src2, src2Step, y), nullptr, 0},
-                                                        rowAt(dst, dstStep, y), roi.width,
-                                                        ComposeRule<T, O, true, Pre>{}, stream);
-      } else {
-        alphaLanes<T, AlphaFrom::Pixel, AlphaLanes::Fourth>({rowAt(src1, src1Step, y), nullptr, 0},
-                                                            {rowAt(src2, src2Step, y), nullptr, 0},
-                                                            rowAt(dst, dstStep, y), roi.width * 4, rule, stream);
-      }
+    const ComposeRule<T, decltype(op)::value, AlphaOnly, decltype(pre)::value> rule;
+    alphaRows<T, L>(roi, [&](int y, bool stream) { row(y, rule, stream); });
+  });
+  return pxlStsOk;
+}
+
+template <class T, AlphaLay L, class S, class D>
+PxlStatus alphaComp(S src1, int src1Step, S src2, int src2Step, D dst, int dstStep, PxlSize roi, int alphaType) {
+  return composeRows<T, L, L == AlphaLay::AC1>(src1, src2, dst, roi, alphaType, [&](int y, const auto& rule, bool stream) {
+    if constexpr (L == AlphaLay::AP4) {
+      const T* a1 = planeRow(src1, 3, src1Step, y);
+      const T* a2 = planeRow(src2, 3, src2Step, y);
+      for (int k = 0; k < 3; ++k)
+        alphaLanes<T, AlphaFrom::Plane, AlphaLanes::None>({planeRow(src1, k, src1Step, y), a1, 0},
+                                                          {planeRow(src2, k, src2Step, y), a2, 0},
+                                                          planeRow(dst, k, dstStep, y), roi.width, rule, stream);
+      alphaLanes<T, AlphaFrom::Self, AlphaLanes::All>({a1, nullptr, 0}, {a2, nullptr, 0},
+                                                      planeRow(dst, 3, dstStep, y), roi.width, rule, stream);
+    } else if constexpr (L == AlphaLay::AC1) {
+      alphaLanes<T, AlphaFrom::Self, AlphaLanes::All>({rowAt(src1, src1Step, y), nullptr, 0},
+                                                      {rowAt(src2, src2Step, y), nullptr, 0}, rowAt(dst, dstStep, y),
+                                                      roi.width, rule, stream);
+    } else {
+      alphaLanes<T, AlphaFrom::Pixel, AlphaLanes::Fourth>({rowAt(src1, src1Step, y), nullptr, 0},
+                                                          {rowAt(src2, src2Step, y), nullptr, 0},
+                                                          rowAt(dst, dstStep, y), roi.width * 4, rule, stream);
     }
   });
-  if (stream) simd::storeFence();
-  return pxlStsOk;
 }
 
 // One constant alpha per source. In AC4 and AP4 the alpha samples of dst
@@ -94,42 +97,31 @@ PxlStatus alphaComp(S src1, int src1Step, S src2, int src2Step, D dst, int dstSt
 template <class T, AlphaLay L, class S, class D>
 PxlStatus alphaCompC(S src1, int src1Step, T alpha1, S src2, int src2Step, T alpha2, D dst, int dstStep,
                      PxlSize roi, int alphaType) {
-  if (PxlStatus st = checkAlpha<L>(roi, src1, src2, dst)) return st;
-  if (badOperator(alphaType)) return pxlStsAlphaOp;
-  const bool stream = streamed<T, L>(roi);
-  withOperator(alphaType, [&](auto op, auto pre) {
-    constexpr int O = decltype(op)::value;
-    constexpr bool Pre = decltype(pre)::value;
-    const ComposeRule<T, O, false, Pre> rule;
-    for (int y = 0; y < roi.height; ++y) {
-      if constexpr (L == AlphaLay::AP4) {
-        for (int k = 0; k < 4; ++k) {
-          const Operand<T> o1{planeRow(src1, k, src1Step, y), nullptr, alpha1};
-          const Operand<T> o2{planeRow(src2, k, src2Step, y), nullptr, alpha2};
-          T* d = planeRow(dst, k, dstStep, y);
-          if (k < 3)
-            alphaLanes<T, AlphaFrom::Constant, AlphaLanes::None>(o1, o2, d, roi.width, rule, stream);
-          else
-            alphaLanes<T, AlphaFrom::Constant, AlphaLanes::All>(o1, o2, d, roi.width, rule, stream);
-        }
-      } else {
-        const Operand<T> o1{rowAt(src1, src1Step, y), nullptr, alpha1};
-        const Operand<T> o2{rowAt(src2, src2Step, y), nullptr, alpha2};
-        constexpr AlphaLanes K = L == AlphaLay::AC4 ? AlphaLanes::Fourth : AlphaLanes::None;
-        alphaLanes<T, AlphaFrom::Constant, K>(o1, o2, rowAt(dst, dstStep, y), roi.width * kSamples<L>, rule, stream);
+  return composeRows<T, L, false>(src1, src2, dst, roi, alphaType, [&](int y, const auto& rule, bool stream) {
+    if constexpr (L == AlphaLay::AP4) {
+      for (int k = 0; k < 4; ++k) {
+        const Operand<T> o1{planeRow(src1, k, src1Step, y), nullptr, alpha1};
+        const Operand<T> o2{planeRow(src2, k, src2Step, y), nullptr, alpha2};
+        T* d = planeRow(dst, k, dstStep, y);
+        if (k < 3)
+          alphaLanes<T, AlphaFrom::Constant, AlphaLanes::None>(o1, o2, d, roi.width, rule, stream);
+        else
+          alphaLanes<T, AlphaFrom::Constant, AlphaLanes::All>(o1, o2, d, roi.width, rule, stream);
       }
+    } else {
+      const Operand<T> o1{rowAt(src1, src1Step, y), nullptr, alpha1};
+      const Operand<T> o2{rowAt(src2, src2Step, y), nullptr, alpha2};
+      constexpr AlphaLanes K = L == AlphaLay::AC4 ? AlphaLanes::Fourth : AlphaLanes::None;
+      alphaLanes<T, AlphaFrom::Constant, K>(o1, o2, rowAt(dst, dstStep, y), roi.width * kSamples<L>, rule, stream);
     }
   });
-  if (stream) simd::storeFence();
-  return pxlStsOk;
 }
 
 template <class T, AlphaLay L, class S, class D>
 PxlStatus alphaPremul(S src, int srcStep, D dst, int dstStep, PxlSize roi) {
   if (PxlStatus st = checkAlpha<L>(roi, src, dst)) return st;
   const PremulRule<T> rule;
-  const bool stream = streamed<T, L>(roi);
-  for (int y = 0; y < roi.height; ++y) {
+  alphaRows<T, L>(roi, [&](int y, bool stream) {
     if constexpr (L == AlphaLay::AP4) {
       const T* a = planeRow(src, 3, srcStep, y);
       for (int k = 0; k < 3; ++k) {
@@ -142,8 +134,7 @@ PxlStatus alphaPremul(S src, int srcStep, D dst, int dstStep, PxlSize roi) {
       const Operand<T> o{rowAt(src, srcStep, y), nullptr, 0};
       alphaLanes<T, AlphaFrom::Pixel, AlphaLanes::Fourth>(o, o, rowAt(dst, dstStep, y), roi.width * 4, rule, stream);
     }
-  }
-  if (stream) simd::storeFence();
+  });
   return pxlStsOk;
 }
 
@@ -158,8 +149,7 @@ template <class T, AlphaLay L, class S, class D>
 PxlStatus alphaPremulC(S src, int srcStep, T alpha, D dst, int dstStep, PxlSize roi) {
   if (PxlStatus st = checkAlpha<L>(roi, src, dst)) return st;
   const PremulRule<T> rule;
-  const bool stream = streamed<T, L>(roi);
-  for (int y = 0; y < roi.height; ++y) {
+  alphaRows<T, L>(roi, [&](int y, bool stream) {
     if constexpr (L == AlphaLay::AP4) {
       for (int k = 0; k < 4; ++k) {
         const Operand<T> o{planeRow(src, k, srcStep, y), nullptr, alpha};
@@ -170,8 +160,7 @@ PxlStatus alphaPremulC(S src, int srcStep, T alpha, D dst, int dstStep, PxlSize 
       alphaLanes<T, AlphaFrom::Constant, AlphaLanes::None>(o, o, rowAt(dst, dstStep, y), roi.width * kSamples<L>,
                                                            rule, stream);
     }
-  }
-  if (stream) simd::storeFence();
+  });
   return pxlStsOk;
 }
 

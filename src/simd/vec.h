@@ -9,6 +9,7 @@
 
 #include <immintrin.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
@@ -259,6 +260,16 @@ inline void streamStore(void* p, V v) {
 }
 
 inline void storeFence() { _mm_sfence(); }
+
+// Samples of T from p up to its first register boundary, where streaming
+// stores can start (at most len); -1 where p is not aligned to its sample
+// size, so that no boundary is ever reached and a row is not streamed.
+template <class T>
+inline int streamPeel(const T* p, int len) {
+  const std::uintptr_t mis = reinterpret_cast<std::uintptr_t>(p) % kBytes;
+  if (mis % sizeof(T) != 0) return -1;
+  return int(std::min<std::uintptr_t>(std::uintptr_t(len), (kBytes - mis) % kBytes / sizeof(T)));
+}
 
 // A block of whole 16-byte chunks written around the cache: p aligned to
 // kBytes if the block is whole registers, else to 16.
