@@ -46,6 +46,7 @@ class Member:
         self.order = ''           # check order, where the tests may sweep it
         self.folds = False        # hands over to C1 after the width check
         self.vector = False       # pxls: a length instead of steps and roi
+        self.sweep = {}           # argument name -> C++ value the member accepts
 
 
 class Family:
@@ -60,11 +61,15 @@ class Family:
     desc: descriptors after the layout, e.g. 'RSfs IRSfs' or 'R IR'; for
     vector families the suffix after the type, '' for none ('Sfs ISfs', ' I').
     extra: [(c type, name)] behind roi (and mask), before scale.
+    sweep: {argument name: C++ expression} giving the bad-argument sweep a
+    value of an extra argument that the member accepts (see SWEEP_GOOD in
+    pxlgen.py for the names every family shares).
     impl: C++ callee with {T} (or {S}, {D}) and {L} placeholders.
     """
 
     def __init__(self, prefix, stem, types, desc, impl, file, shape, layouts='',
-                 qual='', extra=(), doc='', order='', folds='', value='value', scalar_value=False):
+                 qual='', extra=(), doc='', order='', folds='', value='value', scalar_value=False,
+                 sweep=None):
         self.prefix, self.stem, self.qual = prefix, stem, qual
         # The constant's name, and whether it is one sample in every layout
         # (an opacity) rather than one per channel.
@@ -80,6 +85,7 @@ class Family:
         # sweep of the tests derives every expected status from these two.
         self.order = order
         self.folds = folds.split()
+        self.sweep = dict(sweep or {})
 
     def heading(self):
         q = '_' + self.qual if self.qual else ''
@@ -120,6 +126,7 @@ class Family:
         m.order = self.order
         m.folds = lay in self.folds
         m.vector = self.prefix == 'pxls'
+        m.sweep = self.sweep
         return m
 
     def _base_args(self, S, D, lay, inplace, channel_of_interest):
