@@ -5,6 +5,7 @@
 // OpenCV's version and code paths, the load when the run began) goes into
 // the JSON context, next to what Google Benchmark records itself.
 #include <benchmark/benchmark.h>
+#include <dlfcn.h>
 
 #include <fstream>
 #include <sstream>
@@ -14,11 +15,19 @@
 
 #include "harness.h"
 
-#ifndef PXL_BENCH_ISA
-#define PXL_BENCH_ISA "unknown"
-#endif
-
 namespace {
+
+// The instruction level of the library file the loader chose: the baseline
+// lives in the library folder, every other level in glibc-hwcaps/<level>/.
+std::string loadedLevel() {
+  Dl_info info;
+  if (dladdr(reinterpret_cast<void*>(&pxliAdd_8u_C1RSfs), &info) == 0 || info.dli_fname == nullptr) return "unknown";
+  const std::string path = info.dli_fname;
+  const auto at = path.find("glibc-hwcaps/");
+  if (at == std::string::npos) return "baseline";
+  const auto start = at + 13;
+  return path.substr(start, path.find('/', start) - start);
+}
 
 // The lines of OpenCV's build report that say which instructions it runs
 // and how it spreads work over threads; it picks its code path at run time.
@@ -46,7 +55,7 @@ std::string loadAverage() {
 int main(int argc, char** argv) {
   const PxlLibVersion* v = pxliGetLibVersion();
   benchmark::AddCustomContext("pxl_version", v != nullptr && v->versionText ? v->versionText : "unknown");
-  benchmark::AddCustomContext("pxl_isa", PXL_BENCH_ISA);
+  benchmark::AddCustomContext("pxl_isa", loadedLevel());
   benchmark::AddCustomContext("pxl_threads_all", std::to_string(pxlbench::allThreads()));
   benchmark::AddCustomContext("opencv_version", cv::getVersionString());
   benchmark::AddCustomContext("opencv_baseline", cvBuildLine("Baseline"));

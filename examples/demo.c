@@ -4,6 +4,8 @@
  *
  * Writes viewable PGM/PPM files into the folder (default "."), and prints a
  * one-line summary with the time of each call. */
+#define _GNU_SOURCE /* dladdr */
+#include <dlfcn.h>
 #include <math.h>
 #include <stdio.h>
 #include <stdlib.h>
@@ -35,6 +37,26 @@ static int writePnmSized(const char* dir, const char* name, const Pxl8u* img, in
 
 static int writePnm(const char* dir, const char* name, const Pxl8u* img, int step, int channels) {
     return writePnmSized(dir, name, img, step, channels, W, H);
+}
+
+/* Which build of the library the dynamic loader chose: every instruction
+ * level is its own file, the baseline in the library folder and the others
+ * in its glibc-hwcaps/<level>/ subfolders, which the loader searches first on
+ * a processor that runs them. */
+static void printLibraryLevel(void) {
+    Dl_info info;
+    if (!dladdr((void*)pxliAdd_8u_C1RSfs, &info) || !info.dli_fname) {
+        printf("library: unknown file\n");
+        return;
+    }
+    const char* level = "baseline x86-64 (SSE2, 16-byte vectors)";
+    if (strstr(info.dli_fname, "glibc-hwcaps/x86-64-v4/"))
+        level = "x86-64-v4 (AVX-512, 64-byte vectors)";
+    else if (strstr(info.dli_fname, "glibc-hwcaps/x86-64-v3/"))
+        level = "x86-64-v3 (AVX2, 32-byte vectors)";
+    else if (strstr(info.dli_fname, "glibc-hwcaps/x86-64-v2/"))
+        level = "x86-64-v2";
+    printf("library: %s, level %s\n", info.dli_fname, level);
 }
 
 /* A scene: a diagonal ramp with a bright disc and a dark ring. */
@@ -178,6 +200,7 @@ int main(int argc, char** argv) {
         pxliFree(swapped);
     }
 
+    printLibraryLevel();
     printf("pxl_demo %s: %s, %d results in %s, %d threads (", pxliGetLibVersion()->versionText,
            ok ? "ok" : "FAILED", nt + 0, dir, threads_omp_of_n_pxl);
     for (int i = 0; i < nt; ++i) printf("%s%s %.3f ms", i ? ", " : "", t[i].name, t[i].ms);

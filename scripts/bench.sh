@@ -3,9 +3,8 @@
 # BENCHMARKS.md from its JSON output.
 #
 # Environment (all optional):
-#   PXL_ISA                 instruction level of the library: baseline or avx2; the default
-#                           is the highest of these that this processor runs, since OpenCV
-#                           too picks its code paths for the processor it runs on
+#   PXL_ISA                 one instruction level only (baseline, avx2, avx512); the default
+#                           builds every level and measures the one the loader picks here
 #   PXL_BENCH_MIN_TIME      seconds per repetition of each benchmark (default 0.1)
 #   PXL_BENCH_REPETITIONS   repetitions within one run of the suite (default 3)
 #   PXL_BENCH_RUNS          runs of the whole suite; the table shows the median (default 5)
@@ -17,19 +16,17 @@ set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
 cd "$root"
 
-if [ -z "${PXL_ISA:-}" ]; then
-  isa=baseline
-  grep -qw avx2 /proc/cpuinfo && grep -qw fma /proc/cpuinfo && grep -qw bmi2 /proc/cpuinfo && isa=avx2
-else
-  isa=$PXL_ISA
-fi
+# Every level is built, and the loader picks the best one this processor
+# runs (the table names it), as OpenCV picks its code paths at run time;
+# PXL_ISA builds and measures one level alone.
+isa=${PXL_ISA:-}
 out=${PXL_BENCH_OUT:-BENCHMARKS.md}
 min_time=${PXL_BENCH_MIN_TIME:-0.1}
 reps=${PXL_BENCH_REPETITIONS:-3}
 runs=${PXL_BENCH_RUNS:-5}
 quiet_wait=${PXL_BENCH_QUIET_WAIT:-300}
 filter=${PXL_BENCH_FILTER:-.}
-build=build-bench-$isa
+build=build-bench${isa:+-$isa}
 stats=$build/pxl_bench.stats
 
 # ---------------------------------------------------------------- packages
@@ -119,6 +116,6 @@ awk -v b0="$busy0" -v b1="$busy1" -v st0="$steal0" -v st1="$steal1" -v hz="$hz" 
   }' >"$stats"
 
 # ---------------------------------------------------------------- table
-command="PXL_ISA=$isa scripts/bench.sh"
+command="${isa:+PXL_ISA=$isa }scripts/bench.sh"
 [ "$out" = BENCHMARKS.md ] || command="PXL_BENCH_OUT=$out $command"
 python3 scripts/bench_table.py "${jsons[@]}" --out "$out" --command "$command" --run-stats "$stats"

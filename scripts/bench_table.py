@@ -276,8 +276,8 @@ def main():
     out.append(f"- Machine: {model}, {cpus} logical CPUs ({cores} cores per socket, {sockets} socket(s)), "
                f"{context.get('mhz_per_cpu', '?')} MHz; last-level cache {llc // (1 << 20)} MiB; a virtual "
                "machine")
-    out.append(f"- Library: {context.get('pxl_version', '?')}, revision {git_revision()}, built for the "
-               f"instruction level `{context.get('pxl_isa', '?')}` (set with `PXL_ISA`)")
+    out.append(f"- Library: {context.get('pxl_version', '?')}, revision {git_revision()}, the file of "
+               f"instruction level `{context.get('pxl_isa', '?')}`, the one the dynamic loader picked on this machine")
     out.append(f"- OpenCV: {context.get('opencv_version', '?')}, baseline {context.get('opencv_baseline', '?')}, "
                f"code paths picked at run time among {context.get('opencv_dispatch', '?')}; threads: "
                f"{context.get('opencv_parallel', '?')}")

@@ -25,7 +25,16 @@ struct SweepEntry {
   int images;         // image or vector pointers, in argument order
   bool valuePtr;      // the constant is passed by pointer
   int planar;         // bit i set: image i is a plane array
-  PxlStatus (*call)(const SweepArgs&);
+  const void* fn;     // the linked member, or null where it is looked up by name
+  PxlStatus (*thunk)(const void* fn, const SweepArgs&);
+
+  PxlStatus call(const SweepArgs& a) const { return thunk(fn, a); }
+  PxlStatus callAt(const void* member, const SweepArgs& a) const { return thunk(member, a); }
 };
+
+// A program that loads the library by path defines this as null first.
+#ifndef PXL_SWEEP_FN
+#define PXL_SWEEP_FN(name) reinterpret_cast<const void*>(&name)
+#endif
 
 #include "sweep.inc"

@@ -160,10 +160,12 @@ def sweep_text(members):
                 nimg += 1
             else:
                 raise SystemExit(f'sweep: no rule for argument {n} of {m.name}')
-        call = f'{m.name}({", ".join(args)})'
+        # The thunk calls whichever copy of the member it is handed (the
+        # linked one, or one of a level's library loaded by path).
+        call = f'((decltype(&{m.name}))f)({", ".join(args)})'
         out.append(f'  {{"{m.name}", "{m.order}", {str(m.folds).lower()}, {str(m.vector).lower()}, '
-                   f'{nimg}, {str(value_ptr).lower()}, {planar},')
-        out.append(f'   [](const SweepArgs& a) -> PxlStatus {{ return {call}; }}}},')
+                   f'{nimg}, {str(value_ptr).lower()}, {planar}, PXL_SWEEP_FN({m.name}),')
+        out.append(f'   [](const void* f, const SweepArgs& a) -> PxlStatus {{ return {call}; }}}},')
     out += ['};', '']
     return '\n'.join(out)
 

@@ -46,16 +46,20 @@ constexpr bool productRuleIsOneHighProduct() {
 }
 static_assert(productRuleIsOneHighProduct(), "8u products through the high half of t + 1 times 257");
 
-// High halves of unsigned 16-bit products, on one 16- or 32-byte register.
+// High halves of unsigned 16-bit products, on one 16-, 32- or 64-byte register.
 template <class V>
 inline V mulHighU16(V a, V b) {
   static_assert(std::is_same_v<simd::Elem<V>, std::uint16_t>, "16-bit lanes");
   if constexpr (sizeof(V) == 16) {
     return (V)_mm_mulhi_epu16((__m128i)a, (__m128i)b);
-  } else {
+  } else if constexpr (sizeof(V) == 32) {
 #if defined(__AVX2__)
-    static_assert(sizeof(V) == 32, "one register");
     return (V)_mm256_mulhi_epu16((__m256i)a, (__m256i)b);
+#endif
+  } else {
+#if defined(PXL_SIMD_512)
+    static_assert(sizeof(V) == 64, "one register");
+    return (V)_mm512_mulhi_epu16((__m512i)a, (__m512i)b);
 #endif
   }
 }

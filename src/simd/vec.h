@@ -2,7 +2,8 @@
 //
 // Kernels are written once against GCC/Clang vector extensions; the build's
 // instruction level decides the register width (16 bytes on baseline x86-64,
-// 32 bytes with AVX2) and the compiler emits the instructions. There is no
+// 32 bytes with AVX2, 64 with AVX-512) and the compiler emits the
+// instructions. There is no
 // run-time dispatch. The same lane functions also compile for plain scalars,
 // so a kernel's block loop and its tail share one expression of the rule.
 #pragma once
@@ -16,7 +17,10 @@
 
 namespace pxl::simd {
 
-#if defined(__AVX2__)
+#if defined(__AVX512F__) && defined(__AVX512BW__)
+#define PXL_SIMD_512 1
+inline constexpr int kBytes = 64;
+#elif defined(__AVX2__)
 inline constexpr int kBytes = 32;
 #else
 inline constexpr int kBytes = 16;
@@ -128,6 +132,12 @@ inline P minMaxReg(P a, P b) {
   } else if constexpr (kIsVector<P> && sizeof(P) == 32 && std::is_same_v<E, double>) {
     return (P)(Min ? _mm256_min_pd((__m256d)a, (__m256d)b) : _mm256_max_pd((__m256d)a, (__m256d)b));
 #endif
+#if defined(PXL_SIMD_512)
+  } else if constexpr (kIsVector<P> && sizeof(P) == 64 && std::is_same_v<E, float>) {
+    return (P)(Min ? _mm512_min_ps((__m512)a, (__m512)b) : _mm512_max_ps((__m512)a, (__m512)b));
+  } else if constexpr (kIsVector<P> && sizeof(P) == 64 && std::is_same_v<E, double>) {
+    return (P)(Min ? _mm512_min_pd((__m512d)a, (__m512d)b) : _mm512_max_pd((__m512d)a, (__m512d)b));
+#endif
   } else if constexpr (Min) {
     return a < b ? a : b;
   } else {
@@ -182,7 +192,10 @@ namespace pxl::simd {
 template <class T>
 using Reg = Vec<T, kBytes / int(sizeof(T))>;
 
-#if defined(__AVX2__)
+#if defined(PXL_SIMD_512)
+using RawReg = __m512i;
+#define PXL_SAT_OP(op, suffix) _mm512_##op##_##suffix
+#elif defined(__AVX2__)
 using RawReg = __m256i;
 #define PXL_SAT_OP(op, suffix) _mm256_##op##_##suffix
 #else
@@ -217,13 +230,15 @@ inline Reg<T> averageUp(Reg<T> a, Reg<T> b) {
 }
 
 
-// Bytes to 16-bit lanes and back, on whole registers. On AVX2 both steps
-// work within each 128-bit half, so a register taken apart by widenBytes and
+// Bytes to 16-bit lanes and back, on whole registers. On AVX2 and AVX-512
+// both steps work within each 128-bit quarter, so a register taken apart by widenBytes and
 // put together by packBytes keeps its order; only lane-wise operations may
 // come in between.
 inline void widenBytes(Reg<std::uint8_t> v, Reg<std::uint16_t>& lo, Reg<std::uint16_t>& hi) {
   const RawReg x = (RawReg)v;
-#if defined(__AVX2__)
+#if defined(PXL_SIMD_512)
+  const RawReg z = _mm512_setzero_si512();
+#elif defined(__AVX2__)
   const RawReg z = _mm256_setzero_si256();
 #else
   const RawReg z = _mm_setzero_si128();
@@ -252,7 +267,9 @@ namespace pxl::simd {
 template <class V>
 inline void streamStore(void* p, V v) {
   static_assert(sizeof(V) == kBytes, "one whole register");
-#if defined(__AVX2__)
+#if defined(PXL_SIMD_512)
+  _mm512_stream_si512(static_cast<__m512i*>(p), (__m512i)v);
+#elif defined(__AVX2__)
   _mm256_stream_si256(static_cast<__m256i*>(p), (__m256i)v);
 #else
   _mm_stream_si128(static_cast<__m128i*>(p), (__m128i)v);
@@ -279,7 +296,13 @@ inline void streamBlock(void* p, const V& v) {
   constexpr int chunk = sizeof(V) % kBytes == 0 ? kBytes : 16;
   for (int off = 0; off < int(sizeof(V)); off += chunk) {
     char* q = static_cast<char*>(p) + off;
-    if constexpr (chunk == 32) {
+    if constexpr (chunk == 64) {
+#if defined(PXL_SIMD_512)
+      __m512i c;
+      std::memcpy(&c, reinterpret_cast<const char*>(&v) + off, sizeof c);
+      _mm512_stream_si512(reinterpret_cast<__m512i*>(q), c);
+#endif
+    } else if constexpr (chunk == 32) {
       __m256i c;
       std::memcpy(&c, reinterpret_cast<const char*>(&v) + off, sizeof c);
       _mm256_stream_si256(reinterpret_cast<__m256i*>(q), c);
@@ -339,6 +362,10 @@ template <class V, std::enable_if_t<kIsVector<V>, int> = 0>
 inline Rebind<std::int32_t, V> roundToInt32(const V& v) {
   constexpr int N = kLaneCount<V>;
   if constexpr (std::is_same_v<Elem<V>, float>) {
+#if defined(PXL_SIMD_512)
+    if constexpr (N % 16 == 0)
+      return detail::roundChunks<16, __m512, __m512i>(v, [](__m512 c) { return _mm512_cvtps_epi32(c); });
+#endif
 #if defined(__AVX2__)
     if constexpr (N % 8 == 0)
       return detail::roundChunks<8, __m256, __m256i>(v, [](__m256 c) { return _mm256_cvtps_epi32(c); });
@@ -347,6 +374,10 @@ inline Rebind<std::int32_t, V> roundToInt32(const V& v) {
     return detail::roundChunks<4, __m128, __m128i>(v, [](__m128 c) { return _mm_cvtps_epi32(c); });
   } else {
     static_assert(std::is_same_v<Elem<V>, double>, "float or double lanes");
+#if defined(PXL_SIMD_512)
+    if constexpr (N % 8 == 0)
+      return detail::roundChunks<8, __m512d, __m256i>(v, [](__m512d c) { return _mm512_cvtpd_epi32(c); });
+#endif
 #if defined(__AVX2__)
     if constexpr (N % 4 == 0)
       return detail::roundChunks<4, __m256d, __m128i>(v, [](__m256d c) { return _mm256_cvtpd_epi32(c); });
@@ -503,7 +534,7 @@ template <class V>
 inline Rebind<std::int32_t, V> widenToInt32(const V& v) {
   using From = Elem<V>;
   if constexpr (kIsVector<V> && sizeof(From) <= 2 && kLaneCount<V> * 4 == kBytes) {
-    __m128i x;
+    __m128i x = _mm_setzero_si128();
     if constexpr (sizeof v == 4) {
       std::int32_t w;
       std::memcpy(&w, &v, 4);
@@ -512,11 +543,19 @@ inline Rebind<std::int32_t, V> widenToInt32(const V& v) {
       long long w;
       std::memcpy(&w, &v, 8);
       x = _mm_cvtsi64_si128(w);
-    } else {
+    } else if constexpr (sizeof v == 16) {
       std::memcpy(&x, &v, sizeof x);
     }
     RawReg r;
-#if defined(__AVX2__)
+#if defined(PXL_SIMD_512)
+    if constexpr (sizeof(From) == 1) {
+      r = std::is_unsigned_v<From> ? _mm512_cvtepu8_epi32(x) : _mm512_cvtepi8_epi32(x);
+    } else {
+      __m256i y;
+      std::memcpy(&y, &v, sizeof y);
+      r = std::is_unsigned_v<From> ? _mm512_cvtepu16_epi32(y) : _mm512_cvtepi16_epi32(y);
+    }
+#elif defined(__AVX2__)
     if constexpr (sizeof(From) == 1)
       r = std::is_unsigned_v<From> ? _mm256_cvtepu8_epi32(x) : _mm256_cvtepi8_epi32(x);
     else
@@ -551,6 +590,12 @@ template <class M>
 inline bool anyLane(const M& m) {
   if constexpr (!kIsVector<M>) {
     return m != 0;
+#if defined(PXL_SIMD_512)
+  } else if constexpr (sizeof(M) == 64) {
+    __m512i r;
+    std::memcpy(&r, &m, sizeof r);
+    return _mm512_movepi8_mask(r) != 0;
+#endif
 #if defined(__AVX2__)
   } else if constexpr (sizeof(M) == 32) {
     __m256i r;

@@ -5,6 +5,13 @@ execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/pre
 if(rc)
   message(FATAL_ERROR "install failed")
 endif()
+# Every level the build made sits where the loader looks for it.
+string(REPLACE "," ";" LEVELS "${LEVELS}")
+foreach(level ${LEVELS})
+  if(NOT level STREQUAL "baseline" AND NOT EXISTS ${WORK}/prefix/lib/glibc-hwcaps/${level}/libpxlia6.so.5)
+    message(FATAL_ERROR "install has no ${level} library")
+  endif()
+endforeach()
 set(ENV{PKG_CONFIG_PATH} ${WORK}/prefix/lib/pkgconfig)
 execute_process(COMMAND ${CMAKE_COMMAND} -S ${SOURCE}/tests/consumer -B ${WORK}/build
                         -DCMAKE_PREFIX_PATH=${WORK}/prefix RESULT_VARIABLE rc)
@@ -19,5 +26,13 @@ foreach(exe with_cmake with_pkgconfig)
   execute_process(COMMAND ${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${WORK}/prefix/lib ${WORK}/build/${exe} RESULT_VARIABLE rc)
   if(rc)
     message(FATAL_ERROR "${exe} failed: ${rc}")
+  endif()
+  # With every glibc-hwcaps folder masked, the plain folder's build serves.
+  if(EXISTS /lib64/ld-linux-x86-64.so.2)
+    execute_process(COMMAND ${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${WORK}/prefix/lib
+                            /lib64/ld-linux-x86-64.so.2 --glibc-hwcaps-mask none ${WORK}/build/${exe} RESULT_VARIABLE rc)
+    if(rc)
+      message(FATAL_ERROR "${exe} on the baseline level failed: ${rc}")
+    endif()
   endif()
 endforeach()
