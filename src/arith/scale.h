@@ -268,7 +268,7 @@ void rowBinary(const R* a, const R* b, R* d, int len, int s) {
   constexpr int N = kBlock<Op, R, P>;
   int i = saturatingRun<Op, P, R, Stream>(a, b, d, len, s);
   for (; i + N <= len; i += N) blockBinary<Op, P, Stream>(a + i, b + i, d + i, s);
-  for (; i < len; ++i) d[i] = lane<Op, P>(a[i], b[i], s);
+  for (; i < len; ++i) simd::store(d + i, lane<Op, P>(simd::load<R>(a + i), simd::load<R>(b + i), s));
   if constexpr (Stream) simd::storeFence();
 }
 
@@ -276,7 +276,7 @@ void rowBinary(const R* a, const R* b, R* d, int len, int s) {
 // overlaps a source at another address.
 template <class Op, Path P, class R>
 void rowBinaryOrdered(const R* a, const R* b, R* d, int len, int s) {
-  for (int i = 0; i < len; ++i) d[i] = lane<Op, P>(a[i], b[i], s);
+  for (int i = 0; i < len; ++i) simd::store(d + i, lane<Op, P>(simd::load<R>(a + i), simd::load<R>(b + i), s));
 }
 
 // A constant that repeats with period Period (one value per channel, or
@@ -324,7 +324,7 @@ void rowConst(const R* src, const Pattern<R, Period>& pat, R* d, int len, int s)
     }
   }
   for (; i < len; ++i) {
-    d[i] = lane<Op, P>(pat.v[phase], src[i], s);
+    simd::store(d + i, lane<Op, P>(pat.v[phase], simd::load<R>(src + i), s));
     if (++phase == Period) phase = 0;
   }
   if constexpr (Stream) simd::storeFence();
@@ -335,14 +335,14 @@ template <class Op, Path P, class R, int Parts>
 void rowBinaryAC4(const R* a, const R* b, R* d, int width, int s) {
   constexpr int stride = 4 * Parts, used = 3 * Parts;
   for (int x = 0; x < width; ++x, a += stride, b += stride, d += stride)
-    for (int c = 0; c < used; ++c) d[c] = lane<Op, P>(a[c], b[c], s);
+    for (int c = 0; c < used; ++c) simd::store(d + c, lane<Op, P>(simd::load<R>(a + c), simd::load<R>(b + c), s));
 }
 
 template <class Op, Path P, class R, int Parts>
 void rowConstAC4(const R* src, const R* values, R* d, int width, int s) {
   constexpr int stride = 4 * Parts, used = 3 * Parts;
   for (int x = 0; x < width; ++x, src += stride, d += stride)
-    for (int c = 0; c < used; ++c) d[c] = lane<Op, P>(values[c], src[c], s);
+    for (int c = 0; c < used; ++c) simd::store(d + c, lane<Op, P>(simd::load<R>(values + c), simd::load<R>(src + c), s));
 }
 
 }  // namespace pxl::arith

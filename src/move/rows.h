@@ -91,7 +91,9 @@ void fillRow(std::uint8_t* d, const FillPattern<P>& pat, std::size_t n, bool str
   }
   std::size_t i = 0;
   int phase = 0;
-  if (!stream && pat.wordWise && n >= 4) {
+  // wmemset takes wchar_t words on their boundary: at any other address it
+  // rounds to one and shifts the pattern by the difference.
+  if (!stream && pat.wordWise && n >= 4 && reinterpret_cast<std::uintptr_t>(d) % 4 == 0) {
     static_assert(sizeof(wchar_t) == 4, "wmemset fills 4-byte words");
     wchar_t w;
     std::memcpy(&w, pat.bytes, 4);

@@ -65,10 +65,15 @@ inline void store(T* p, const V& v) {
   std::memcpy(p, &v, sizeof v);
 }
 
+// Every lane a copy of s, bit for bit: adding s to a zero vector would turn
+// a negative zero into a positive one (and quieten a signalling NaN).
 template <class V, class S>
 inline V splat(S s) {
   if constexpr (kIsVector<V>) {
-    return V{} + static_cast<Elem<V>>(s);
+    const Elem<V> e = static_cast<Elem<V>>(s);
+    V v;
+    for (int i = 0; i < int(sizeof(V) / sizeof(e)); ++i) v[i] = e;
+    return v;
   } else {
     return static_cast<V>(s);
   }
