@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <functional>
 #include <limits>
 #include <random>
 
@@ -301,6 +300,13 @@ const Kern kKerns[] = {
     {2, 3, 1, 0, {32767, 1, -3, 2, 9, -4}},
 };
 
+// One caller's-kernel member on kernel c at size z, both guard placements.
+#define GEN(S, L, name, call, ref)                                                                    \
+  for (Place place : {Place::Front, Place::Back})                                                     \
+  runAndCompare<Pxl##S, Pxl##S>({z.width, z.height, L.ch, L.ac4}, windowOf(c), place,                \
+                                [&](auto s, int ss, auto d, int ds, PxlSize r) { return call; },      \
+                                [&](auto at) { return ref; }, name)
+
 TEST(GeneralFilters, ConvolutionFlipsTheKernelAndFastPathEqualsFallback) {
   for (const Kern& c : kKerns)
     for (int div : {1, 4, 3, -1})
@@ -310,51 +316,26 @@ TEST(GeneralFilters, ConvolutionFlipsTheKernelAndFastPathEqualsFallback) {
         for (std::size_t i = 0; i < ft.size(); ++i) ft16[i] = float(c.k[i]) * (1.0f / float(div));
         const PxlSize ks{c.kw, c.kh};
         const PxlPoint an{c.ax, c.ay};
-        for (Place place : {Place::Front, Place::Back}) {
-          runAndCompare<Pxl8u, Pxl8u>({z.width, z.height, 4, true}, windowOf(c), place,
-              [&](auto s, int ss, auto d, int ds, PxlSize r) {
-                return pxliFilter_8u_AC4R(s, ss, d, ds, r, c.k.data(), ks, an, div);
-              },
-              [&](auto at) {
-                long long a = 0;
-                for (int j = 0; j < c.kh; ++j)
-                  for (int i = 0; i < c.kw; ++i)
-                    a += (long long)c.k[j * c.kw + i] * at(c.kw - 1 - i, c.kh - 1 - j);
-                return intResult(a, div);
-              }, "Filter_8u_AC4R");
-          runAndCompare<Pxl16s, Pxl16s>({z.width, z.height, 3, false}, windowOf(c), place,
-              [&](auto s, int ss, auto d, int ds, PxlSize r) {
-                return pxliFilter_16s_C3R(s, ss, d, ds, r, c.k.data(), ks, an, div);
-              },
-              [&](auto at) { return fromF<Pxl16s>(floatSum<Pxl16s>(c, ft16.data(), at)); }, "Filter_16s_C3R");
-          runAndCompare<Pxl32f, Pxl32f>({z.width, z.height, 1, false}, windowOf(c), place,
-              [&](auto s, int ss, auto d, int ds, PxlSize r) {
-                return pxliFilter_32f_C1R(s, ss, d, ds, r, ft.data(), ks, an);
-              },
-              [&](auto at) { return floatSum<Pxl32f>(c, ft.data(), at); }, "Filter_32f_C1R");
-          runAndCompare<Pxl8u, Pxl8u>({z.width, z.height, 4, false}, windowOf(c), place,
-              [&](auto s, int ss, auto d, int ds, PxlSize r) {
-                return pxliFilter32f_8u_C4R(s, ss, d, ds, r, ft16.data(), ks, an);
-              },
-              [&](auto at) { return fromF<Pxl8u>(floatSum<Pxl8u>(c, ft16.data(), at)); }, "Filter32f_8u_C4R");
-          if (c.kh == 1)
-            runAndCompare<Pxl8u, Pxl8u>({z.width, z.height, 1, false}, windowOf(c), place,
-                [&](auto s, int ss, auto d, int ds, PxlSize r) {
-                  return pxliFilterRow_8u_C1R(s, ss, d, ds, r, c.k.data(), c.kw, c.ax, div);
-                },
-                [&](auto at) {
-                  long long a = 0;
-                  for (int i = 0; i < c.kw; ++i) a += (long long)c.k[i] * at(c.kw - 1 - i, 0);
-                  return intResult(a, div);
-                }, "FilterRow_8u_C1R");
-          if (c.kw == 1)
-            runAndCompare<Pxl16s, Pxl16s>({z.width, z.height, 4, true}, windowOf(c), place,
-                [&](auto s, int ss, auto d, int ds, PxlSize r) {
-                  return pxliFilterColumn32f_16s_AC4R(s, ss, d, ds, r, ft16.data(), c.kh, c.ay);
-                },
-                [&](auto at) { return fromF<Pxl16s>(floatSum<Pxl16s>(c, ft16.data(), at)); },
-                "FilterColumn32f_16s_AC4R");
-        }
+        auto intSum = [&](auto at) {
+          long long a = 0;
+          for (int j = 0; j < c.kh; ++j)
+            for (int i = 0; i < c.kw; ++i) a += (long long)c.k[j * c.kw + i] * at(c.kw - 1 - i, c.kh - 1 - j);
+          return intResult(a, div);
+        };
+        GEN(8u, AC4, "Filter_8u_AC4R", pxliFilter_8u_AC4R(s, ss, d, ds, r, c.k.data(), ks, an, div), intSum(at));
+        GEN(16s, C3, "Filter_16s_C3R", pxliFilter_16s_C3R(s, ss, d, ds, r, c.k.data(), ks, an, div),
+            fromF<Pxl16s>(floatSum<Pxl16s>(c, ft16.data(), at)));
+        GEN(32f, C1, "Filter_32f_C1R", pxliFilter_32f_C1R(s, ss, d, ds, r, ft.data(), ks, an),
+            floatSum<Pxl32f>(c, ft.data(), at));
+        GEN(8u, C4, "Filter32f_8u_C4R", pxliFilter32f_8u_C4R(s, ss, d, ds, r, ft16.data(), ks, an),
+            fromF<Pxl8u>(floatSum<Pxl8u>(c, ft16.data(), at)));
+        if (c.kh == 1)
+          GEN(8u, C1, "FilterRow_8u_C1R", pxliFilterRow_8u_C1R(s, ss, d, ds, r, c.k.data(), c.kw, c.ax, div),
+              intSum(at));
+        if (c.kw == 1)
+          GEN(16s, AC4, "FilterColumn32f_16s_AC4R",
+              pxliFilterColumn32f_16s_AC4R(s, ss, d, ds, r, ft16.data(), c.kh, c.ay),
+              fromF<Pxl16s>(floatSum<Pxl16s>(c, ft16.data(), at)));
       }
 }
 
