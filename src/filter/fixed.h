@@ -37,12 +37,31 @@ constexpr int divisorOf(Div d) {
   return d == Div::By8 ? 8 : d == Div::By16 ? 16 : d == Div::By9 ? 9 : d == Div::By25 ? 25 : d == Div::By571 ? 571 : 1;
 }
 
+// Nearest integer to s / D, ties to even; with D a constant the compiler
+// divides by a multiplication.
+template <int D>
+inline std::int32_t roundDivBy(std::int32_t s) {
+  if constexpr ((D & (D - 1)) == 0) {
+    constexpr int sh = D == 8 ? 3 : 4;
+    return (s + (D / 2 - 1) + ((s >> sh) & 1)) >> sh;  // arithmetic shift
+  } else {
+    return roundDiv(s, D);
+  }
+}
+
 template <class D, class A>
 inline D finish(A s, Div d) {
   if constexpr (std::is_same_v<A, float>) {
     return d == Div::None ? s : s * reciprocal(d);
   } else {
-    return saturate<D>(d == Div::None ? s : roundDiv(s, divisorOf(d)));
+    switch (d) {
+      case Div::By8: return saturate<D>(roundDivBy<8>(s));
+      case Div::By16: return saturate<D>(roundDivBy<16>(s));
+      case Div::By9: return saturate<D>(roundDivBy<9>(s));
+      case Div::By25: return saturate<D>(roundDivBy<25>(s));
+      case Div::By571: return saturate<D>(roundDivBy<571>(s));
+      default: return saturate<D>(s);
+    }
   }
 }
 
@@ -127,13 +146,24 @@ void runThree(const Three& k, const View<S, D, L>& v, Acc<S>* t) {
       const S* c = v.srow(y + 1) - C;
       for (int i = 0; i < n; ++i)
         t[i] = A(k.col[0]) * A(ld(a + i)) + A(k.col[1]) * A(ld(b + i)) + A(k.col[2]) * A(ld(c + i));
-      for (int x = 0; x < w; ++x)
-        for (int ch = 0; ch < P; ++ch) {
-          const A* m = t + (x + 1) * C + ch;
-          A r = A(k.row[0]) * m[-C] + A(k.row[1]) * m[0] + A(k.row[2]) * m[C];
-          if (k.minus) r = A(k.centre) * A(ld(mid + x * C + ch)) - r;
-          st(out + x * C + ch, finish<D>(r, k.div));
+      const A w0 = A(k.row[0]), w1 = A(k.row[1]), w2 = A(k.row[2]), wc = A(k.centre);
+      if (P == C) {
+        // Every sample is filtered: one flat loop over the row's samples.
+        for (int i = 0; i < w * C; ++i) {
+          const A* m = t + C + i;
+          A r = w0 * m[-C] + w1 * m[0] + w2 * m[C];
+          if (k.minus) r = wc * A(ld(mid + i)) - r;
+          st(out + i, finish<D>(r, k.div));
         }
+      } else {
+        for (int x = 0; x < w; ++x)
+          for (int ch = 0; ch < P; ++ch) {
+            const A* m = t + (x + 1) * C + ch;
+            A r = w0 * m[-C] + w1 * m[0] + w2 * m[C];
+            if (k.minus) r = wc * A(ld(mid + x * C + ch)) - r;
+            st(out + x * C + ch, finish<D>(r, k.div));
+          }
+      }
     } else {
       // Row sums of rows y-1, y, y+1 at every ROI position.
       for (int j = 0; j < 3; ++j) {
