@@ -194,28 +194,36 @@ inline A dot5(const int* w, const S* p, int C) {
   return r;
 }
 
-// 5x5 Laplace and Gauss: five scratch rows hold, for output row y, the edge
-// row pass of rows y-2 and y+2, the middle one of y-1 and y+1 and the centre
-// one of y; the column pass adds them in that order.
+// 5x5 Laplace and Gauss: each source row gets its three row passes (edge,
+// middle and centre rows of the kernel) once, into rings of five rows
+// indexed by the source row; output row y then adds edge(y-2) + middle(y-1)
+// + centre(y) + middle(y+1) + edge(y+2) in that order.
 template <class S, class D, Lay L>
 void runRing5(const Ring5& k, const View<S, D, L>& v, Acc<S>* t) {
   using A = Acc<S>;
   constexpr int C = View<S, D, L>::C, P = View<S, D, L>::P;
   const int w = v.roi.width, n = w * C;
-  const int* taps[5] = {k.edge, k.middle, k.centre, k.middle, k.edge};
+  auto slot = [&](int which, int row) { return t + (which * 5 + ((row % 5) + 5) % 5) * n; };
+  auto rowPass = [&](int row) {
+    const S* s = v.srow(row);
+    A *e = slot(0, row), *m = slot(1, row), *c = slot(2, row);
+    for (int x = 0; x < w; ++x)
+      for (int ch = 0; ch < P; ++ch) {
+        const int i = x * C + ch;
+        e[i] = dot5<A>(k.edge, s + i, C);
+        m[i] = dot5<A>(k.middle, s + i, C);
+        c[i] = dot5<A>(k.centre, s + i, C);
+      }
+  };
+  for (int row = -2; row < 2; ++row) rowPass(row);
   for (int y = 0; y < v.roi.height; ++y) {
-    for (int j = 0; j < 5; ++j) {
-      const S* s = v.srow(y - 2 + j);
-      for (int x = 0; x < w; ++x)
-        for (int ch = 0; ch < P; ++ch) t[j * n + x * C + ch] = dot5<A>(taps[j], s + x * C + ch, C);
-    }
+    rowPass(y + 2);
+    const A *e0 = slot(0, y - 2), *m1 = slot(1, y - 1), *c2 = slot(2, y), *m3 = slot(1, y + 1), *e4 = slot(0, y + 2);
     D* out = v.drow(y);
     for (int x = 0; x < w; ++x)
       for (int ch = 0; ch < P; ++ch) {
         const int i = x * C + ch;
-        A r = t[i];
-        for (int j = 1; j < 5; ++j) r = r + t[j * n + i];
-        st(out + i, finish<D>(r, k.div));
+        st(out + i, finish<D>(e0[i] + m1[i] + c2[i] + m3[i] + e4[i], k.div));
       }
   }
 }
@@ -326,7 +334,7 @@ PxlStatus runFixed(const void* kernel, const S* src, int ss, D* dst, int ds, Pxl
     else
       runThree<false>(k, v, t.get());
   } else if constexpr (Pp == Pipe::Ring5) {
-    Scratch<A> t(5 * w * C);
+    Scratch<A> t(15 * w * C);
     if (!t.ok()) return pxlStsAlloc;
     runRing5(*static_cast<const Ring5*>(kernel), v, t.get());
   } else if constexpr (Pp == Pipe::Sep5) {
