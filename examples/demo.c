@@ -73,6 +73,41 @@ static void makeScene(Pxl8u* g, int step, double cx, double cy) {
 
 struct Timing { const char* name; double ms; };
 
+/* Neighbourhood filters: edges (Sobel magnitude), a 5x5 Gauss blur and a
+ * sharpened image of the scene. The filters read two pixels around their
+ * ROI, so the scene is first copied into a larger image whose edge pixels
+ * repeat outwards. */
+static int filterTour(const char* dir, const Pxl8u* a, int s1, struct Timing* t, int* nt) {
+    enum { R = 2 };
+    const PxlSize roi = {W, H}, big = {W + 2 * R, H + 2 * R};
+    int sb, sh, sv, so, ok = 1;
+    Pxl8u* bordered = pxliMalloc_8u_C1(big.width, big.height, &sb);
+    Pxl16s* gx = pxliMalloc_16s_C1(W, H, &sh);
+    Pxl16s* gy = pxliMalloc_16s_C1(W, H, &sv);
+    Pxl8u* out = pxliMalloc_8u_C1(W, H, &so);
+    const Pxl8u* src;
+    double t0 = nowMs();
+    ok &= pxliCopyReplicateBorder_8u_C1R(a, s1, roi, bordered, sb, big, R, R) == pxlStsOk;
+    src = bordered + (size_t)R * sb + R;
+    ok &= pxliFilterSobelHoriz_8u16s_C1R(src, sb, gx, sh, roi, pxlMask3x3) == pxlStsOk;
+    ok &= pxliFilterSobelVert_8u16s_C1R(src, sb, gy, sv, roi, pxlMask3x3) == pxlStsOk;
+    t[(*nt)++] = (struct Timing){"Border+Sobel", nowMs() - t0};
+    for (int y = 0; y < H; ++y)
+        for (int x = 0; x < W; ++x) {
+            double m = hypot(gx[(size_t)y * (sh / 2) + x], gy[(size_t)y * (sv / 2) + x]) / 4;
+            out[(size_t)y * so + x] = (Pxl8u)(m > 255 ? 255 : m);
+        }
+    writePnm(dir, "edges_sobel", out, so, 1);
+    t0 = nowMs();
+    ok &= pxliFilterGauss_8u_C1R(src, sb, out, so, roi, pxlMask5x5) == pxlStsOk;
+    t[(*nt)++] = (struct Timing){"Gauss5x5", nowMs() - t0};
+    writePnm(dir, "gauss_blur", out, so, 1);
+    ok &= pxliFilterSharpen_8u_C1R(src, sb, out, so, roi) == pxlStsOk;
+    writePnm(dir, "sharpened", out, so, 1);
+    pxliFree(bordered); pxliFree(gx); pxliFree(gy); pxliFree(out);
+    return ok;
+}
+
 int main(int argc, char** argv) {
     const char* dir = argc > 1 ? argv[1] : ".";
     struct Timing t[16];
@@ -199,6 +234,8 @@ int main(int argc, char** argv) {
         writePnm(dir, "changes_marked", swapped, sc2, 3);
         pxliFree(swapped);
     }
+
+    ok &= filterTour(dir, a, s1, t, &nt);
 
     printLibraryLevel();
     printf("pxl_demo %s: %s, %d results in %s, %d threads (", pxliGetLibVersion()->versionText,

@@ -948,6 +948,505 @@ PXL_API PxlStatus PXL_CALL pxliMulCScale_16u_AC4R(const Pxl16u* src, int srcStep
 PXL_API PxlStatus PXL_CALL pxliMulCScale_16u_AC4IR(const Pxl16u* value, Pxl16u* srcDst,
     int srcDstStep, PxlSize roi);
 
+/* ---- pxliFilterPrewittHoriz: row below minus row above */
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_16s_C1R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_16s_C3R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_16s_C4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_16s_AC4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_32f_C1R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_32f_C3R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_32f_C4R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_32f_AC4R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+
+/* ---- pxliFilterPrewittVert: left column minus right column */
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittVert_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittVert_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittVert_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittVert_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittVert_16s_C1R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittVert_16s_C3R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittVert_16s_C4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittVert_16s_AC4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittVert_32f_C1R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittVert_32f_C3R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittVert_32f_C4R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterPrewittVert_32f_AC4R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+
+/* ---- pxliFilterSobelHoriz: row below minus row above, 1 2 1 */
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_16s_AC4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_32f_AC4R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+
+/* ---- pxliFilterSobelVert: left column minus right column, 1 2 1 */
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+
+/* ---- pxliFilterSharpen: (17 s - 3x3 sum) / 8, ties to even */
+PXL_API PxlStatus PXL_CALL pxliFilterSharpen_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSharpen_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSharpen_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSharpen_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSharpen_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSharpen_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSharpen_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSharpen_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSharpen_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSharpen_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSharpen_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterSharpen_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+
+/* ---- pxliFilterScharrHoriz: row below minus row above */
+PXL_API PxlStatus PXL_CALL pxliFilterScharrHoriz_8u16s_C1R(const Pxl8u* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterScharrHoriz_8s16s_C1R(const Pxl8s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterScharrHoriz_32f_C1R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+
+/* ---- pxliFilterScharrVert: right column minus left column */
+PXL_API PxlStatus PXL_CALL pxliFilterScharrVert_8u16s_C1R(const Pxl8u* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterScharrVert_8s16s_C1R(const Pxl8s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterScharrVert_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+
+/* ---- pxliFilterSobelHoriz: mask 33 or 55 */
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_8u16s_C1R(const Pxl8u* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHoriz_8s16s_C1R(const Pxl8s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterSobelHorizMask: mask 33 is 3x3, any other 5x5 */
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHorizMask_32f_C1R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterSobelVert: mask 33 or 55 */
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_8u16s_C1R(const Pxl8u* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVert_8s16s_C1R(const Pxl8s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterSobelVertMask: mask 33 is 3x3, any other 5x5 */
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVertMask_32f_C1R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterSobelHorizSecond: mask 33 or 55 */
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHorizSecond_8u16s_C1R(const Pxl8u* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHorizSecond_8s16s_C1R(const Pxl8s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterSobelHorizSecond: mask 33 is 3x3, any other 5x5 */
+PXL_API PxlStatus PXL_CALL pxliFilterSobelHorizSecond_32f_C1R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterSobelVertSecond: mask 33 or 55 */
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVertSecond_8u16s_C1R(const Pxl8u* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVertSecond_8s16s_C1R(const Pxl8s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterSobelVertSecond: mask 33 is 3x3, any other 5x5 */
+PXL_API PxlStatus PXL_CALL pxliFilterSobelVertSecond_32f_C1R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterSobelCross: mask 33 or 55 */
+PXL_API PxlStatus PXL_CALL pxliFilterSobelCross_8u16s_C1R(const Pxl8u* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterSobelCross_8s16s_C1R(const Pxl8s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterSobelCross: mask 33 is 3x3, any other 5x5 */
+PXL_API PxlStatus PXL_CALL pxliFilterSobelCross_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterLaplace: mask 33 or 55 */
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterLaplace */
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_8u16s_C1R(const Pxl8u* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLaplace_8s16s_C1R(const Pxl8s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterGauss: mask 33 (/16, ties to even) or 55 (/571, nearest) */
+PXL_API PxlStatus PXL_CALL pxliFilterGauss_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterGauss_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterGauss_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterGauss_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterGauss_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterGauss_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterGauss_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterGauss_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterGauss_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterGauss_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterGauss_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterGauss_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterHipass: mask 33 (the Laplace filter) or 55 (25 s - 5x5 sum) */
+PXL_API PxlStatus PXL_CALL pxliFilterHipass_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterHipass_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterHipass_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterHipass_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterHipass_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterHipass_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterHipass_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterHipass_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterHipass_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterHipass_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterHipass_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterHipass_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterLowpass: mask 33 (/9) or 55 (/25), nearest */
+PXL_API PxlStatus PXL_CALL pxliFilterLowpass_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLowpass_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLowpass_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLowpass_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLowpass_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLowpass_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLowpass_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLowpass_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterLowpass_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterRobertsUp: s(x, y) - s(x+1, y-1), saturated */
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsUp_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsUp_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsUp_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsUp_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsUp_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsUp_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsUp_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsUp_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsUp_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+
+/* ---- pxliFilterRobertsDown: s(x, y) - s(x-1, y-1), saturated */
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsDown_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsDown_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsDown_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsDown_16s_C1R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsDown_16s_C3R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsDown_16s_AC4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsDown_32f_C1R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsDown_32f_C3R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliFilterRobertsDown_32f_AC4R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi);
+
+/* ---- pxliFilter: integer kernel / divisor (16s through float taps) */
+PXL_API PxlStatus PXL_CALL pxliFilter_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl32s* kernel, PxlSize kernelSize, PxlPoint anchor, Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilter_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl32s* kernel, PxlSize kernelSize, PxlPoint anchor, Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilter_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl32s* kernel, PxlSize kernelSize, PxlPoint anchor, Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilter_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, PxlSize kernelSize, PxlPoint anchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilter_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, PxlSize kernelSize, PxlPoint anchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilter_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, PxlSize kernelSize, PxlPoint anchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilter_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, PxlSize kernelSize, PxlPoint anchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilter_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, PxlSize kernelSize, PxlPoint anchor,
+    Pxl32s divisor);
+
+/* ---- pxliFilter */
+PXL_API PxlStatus PXL_CALL pxliFilter_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, PxlSize kernelSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilter_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, PxlSize kernelSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilter_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, PxlSize kernelSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilter_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, PxlSize kernelSize, PxlPoint anchor);
+
+/* ---- pxliFilter32f: float kernel, rounded to the nearest, saturated */
+PXL_API PxlStatus PXL_CALL pxliFilter32f_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, PxlSize kernelSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilter32f_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, PxlSize kernelSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilter32f_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, PxlSize kernelSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilter32f_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, PxlSize kernelSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilter32f_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, PxlSize kernelSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilter32f_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, PxlSize kernelSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilter32f_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, PxlSize kernelSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilter32f_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, PxlSize kernelSize, PxlPoint anchor);
+
+/* ---- pxliFilterRow: integer kernel / divisor (16s through float taps) */
+PXL_API PxlStatus PXL_CALL pxliFilterRow_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s xAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s xAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s xAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s xAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s xAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s xAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s xAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s xAnchor,
+    Pxl32s divisor);
+
+/* ---- pxliFilterRow */
+PXL_API PxlStatus PXL_CALL pxliFilterRow_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s xAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s xAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s xAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s xAnchor);
+
+/* ---- pxliFilterRow32f: float kernel, rounded to the nearest, saturated */
+PXL_API PxlStatus PXL_CALL pxliFilterRow32f_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s xAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow32f_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s xAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow32f_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s xAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow32f_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s xAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow32f_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s xAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow32f_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s xAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow32f_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s xAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterRow32f_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s xAnchor);
+
+/* ---- pxliFilterColumn: integer kernel / divisor (16s through float taps) */
+PXL_API PxlStatus PXL_CALL pxliFilterColumn_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s yAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s yAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s yAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s yAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s yAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s yAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s yAnchor,
+    Pxl32s divisor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32s* kernel, Pxl32s kernelLength, Pxl32s yAnchor,
+    Pxl32s divisor);
+
+/* ---- pxliFilterColumn */
+PXL_API PxlStatus PXL_CALL pxliFilterColumn_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+
+/* ---- pxliFilterColumn32f: float kernel, rounded to the nearest, saturated */
+PXL_API PxlStatus PXL_CALL pxliFilterColumn32f_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn32f_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn32f_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn32f_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn32f_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn32f_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn32f_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+PXL_API PxlStatus PXL_CALL pxliFilterColumn32f_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+
 /* ---- pxliMalloc: image with rows on 32-byte boundaries; the step goes to *stepBytes */
 PXL_API Pxl8u* PXL_CALL pxliMalloc_8u_C1(int widthPixels, int heightPixels, int* stepBytes);
 PXL_API Pxl8u* PXL_CALL pxliMalloc_8u_C2(int widthPixels, int heightPixels, int* stepBytes);
