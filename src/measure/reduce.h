@@ -62,7 +62,7 @@ void sum8u(const Pxl8u* src, int step, PxlSize roi, Pxl64f* out) {
       if (whole)
         acc[c] += t[c];
       else
-        r[c] += double(std::int32_t(t[c]));
+        r[c] += double(t[c]);
     }
   }
   for (int c = 0; c < P; ++c) out[c] = whole ? double(std::int32_t(acc[c])) : r[c];
