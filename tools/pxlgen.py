@@ -162,7 +162,7 @@ def sweep_text(members):
                 raise SystemExit(f'sweep: no rule for argument {n} of {m.name}')
         call = f'{m.name}({", ".join(args)})'
         out.append(f'  {{"{m.name}", "{m.order}", {str(m.folds).lower()}, {str(m.vector).lower()}, '
-                   f'{nimg}, {str(value_ptr).lower()}, {planar},')
+                   f'{nimg}, {str(value_ptr).lower()}, {planar}, {nstep},')
         out.append(f'   [](const SweepArgs& a) -> PxlStatus {{ return {call}; }}}},')
     out += ['};', '']
     return '\n'.join(out)
