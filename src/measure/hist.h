@@ -140,10 +140,28 @@ PxlStatus countHistogram(const T* src, int step, PxlSize roi, Pxl32s* const* his
         if (table == nullptr) return pxlStsAlloc;
       }
       std::memset(table, 0, sizeof(Pxl32s) * kSize * P);
-      for (int y = 0; y < roi.height; ++y) {
-        const T* p = rowOf(src, step, y);
-        for (int x = 0; x < roi.width; ++x)
-          for (int c = 0; c < P; ++c) ++table[c * kSize + int(ld(p + x * C + c)) - kLo];
+      if constexpr (C == 1 && kSize == 256) {
+        // Four copies of the table, so that neighbouring equal samples do
+        // not wait on each other's increment; added at the end.
+        Pxl32s quad[4][256] = {};
+        for (int y = 0; y < roi.height; ++y) {
+          const Pxl8u* p = rowOf(src, step, y);
+          int x = 0;
+          for (; x + 4 <= roi.width; x += 4) {
+            ++quad[0][p[x]];
+            ++quad[1][p[x + 1]];
+            ++quad[2][p[x + 2]];
+            ++quad[3][p[x + 3]];
+          }
+          for (; x < roi.width; ++x) ++quad[0][p[x]];
+        }
+        for (int v = 0; v < 256; ++v) table[v] = quad[0][v] + quad[1][v] + quad[2][v] + quad[3][v];
+      } else {
+        for (int y = 0; y < roi.height; ++y) {
+          const T* p = rowOf(src, step, y);
+          for (int x = 0; x < roi.width; ++x)
+            for (int c = 0; c < P; ++c) ++table[c * kSize + int(ld(p + x * C + c)) - kLo];
+        }
       }
       for (int c = 0; c < P; ++c) recalc(table + c * kSize, kLo, kLo + kSize, levels[c], nLevels[c], hist[c]);
       if constexpr (kSize > 256) pxlsFree(table);

@@ -44,7 +44,9 @@ inline T addNoise(T v, long double n) {
   if constexpr (std::is_same_v<T, Pxl32f>) {
     return float(v + float(n));
   } else {
-    const long double s = static_cast<long double>(v) + std::nearbyint(n);
+    // llrint converts in the current rounding mode without the cost of
+    // saving and restoring the floating-point environment.
+    const long long s = static_cast<long long>(v) + std::llrint(n);
     if (s <= std::numeric_limits<T>::lowest()) return std::numeric_limits<T>::lowest();
     if (s >= std::numeric_limits<T>::max()) return std::numeric_limits<T>::max();
     return T(s);
