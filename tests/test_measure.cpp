@@ -139,6 +139,10 @@ TEST(CountInRange, InclusiveBoundsNaNAndSixteenBitLanes) {
   EXPECT_EQ(c[0], 1);
   EXPECT_EQ(c[1], 0);
   EXPECT_EQ(c[2], 1);
+  // C1 counts a row in four lanes by column: 4 x 65537 + 2 matches leave 1, 1, 2, 2.
+  wide.resize(4 * 65537 + 2, 7);
+  ASSERT_EQ(pxliCountInRange_8u_C1R(wide.data(), 4 * 65537 + 2, {4 * 65537 + 2, 1}, &n, 7, 7), pxlStsOk);
+  EXPECT_EQ(n, 6);
 }
 
 TEST(Norm, IntegerEdgesAndRelativeWarnings) {

@@ -345,8 +345,16 @@ PxlStatus countInRange(const T* src, int step, PxlSize roi, Pxl32s* counts, cons
       std::uint16_t lane[4] = {};
       const Pxl8u lo = lower[0], hi = upper[0];
       if constexpr (C == 1) {
-        for (int x = 0; x < roi.width; ++x) lane[x & 3] = std::uint16_t(lane[x & 3] + (p[x] >= lo && p[x] <= hi));
-        total[0] += std::uint32_t(lane[0]) + lane[1] + lane[2] + lane[3];
+        // Lane k holds columns k, k + 4, ...; counting each in 32 bits and
+        // keeping the low 16 bits gives the 16-bit lanes' wrap exactly.
+        // lo <= hi, so one unsigned comparison tests both bounds.
+        const Pxl8u span = Pxl8u(hi - lo);
+        std::uint32_t l[4] = {};
+        int x = 0;
+        for (; x + 4 <= roi.width; x += 4)
+          for (int k = 0; k < 4; ++k) l[k] += Pxl8u(p[x + k] - lo) <= span;
+        for (; x < roi.width; ++x) l[x & 3] += Pxl8u(p[x] - lo) <= span;
+        total[0] += (l[0] & 0xFFFF) + (l[1] & 0xFFFF) + (l[2] & 0xFFFF) + (l[3] & 0xFFFF);
       } else {
         for (int x = 0; x < roi.width; ++x)
           for (int c = 0; c < P; ++c) {
