@@ -55,7 +55,8 @@ std::vector<Case> casesFor(const SweepEntry& e) {
                       [j, n](SweepArgs& a) { a.step[j] = n; }, pxlStsStep});
     cs.push_back({"width 0 and step -1", [](SweepArgs& a) { a.roi.width = 0, a.step[0] = -1; },
                   stepsFirst ? pxlStsStep : pxlStsSize});
-    cs.push_back({"height -1 and last step 0", [lastStep](SweepArgs& a) { a.roi.height = -1, a.step[lastStep] = 0; },
+    cs.push_back({"height -1 and last step 0",
+                  [lastStep](SweepArgs& a) { a.roi.height = -1, a.step[lastStep] = 0; },
                   stepsFirst ? pxlStsStep : pxlStsSize});
     cs.push_back({"null and step 0", [lastStep](SweepArgs& a) { a.img[0] = nullptr, a.step[lastStep] = 0; },
                   pxlStsNullPtr});

@@ -24,8 +24,9 @@ def reductions():
         T = CTYPE[t]
         for l in LAYS:
             lay = f'{T}, pxl::Lay::{l}'
-            out.append(entry(f'pxliMin_{t}_{l}R', IMG(T) + [(f'{T}*', 'min')], f'pxl::measure::minOrMax<{lay}, false>', 'NST'))
-            out.append(entry(f'pxliMax_{t}_{l}R', IMG(T) + [(f'{T}*', 'max')], f'pxl::measure::minOrMax<{lay}, true>', 'NST'))
+            for stem, mx in (('Min', 'false'), ('Max', 'true')):
+                out.append(entry(f'pxli{stem}_{t}_{l}R', IMG(T) + [(f'{T}*', stem.lower())],
+                                 f'pxl::measure::minOrMax<{lay}, {mx}>', 'NST'))
             out.append(entry(f'pxliMinMax_{t}_{l}R', IMG(T) + [(f'{T}*', 'min'), (f'{T}*', 'max')],
                              f'pxl::measure::minMax<{lay}>', 'NST'))
             for stem, mx in (('MinIndx', 'false'), ('MaxIndx', 'true')):
