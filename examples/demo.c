@@ -105,6 +105,42 @@ static int filterTour(const char* dir, const Pxl8u* a, int s1, struct Timing* t,
     ok &= pxliFilterSharpen_8u_C1R(src, sb, out, so, roi) == pxlStsOk;
     writePnm(dir, "sharpened", out, so, 1);
     pxliFree(bordered); pxliFree(gx); pxliFree(gy); pxliFree(out);
+
+/* Measures of one image: sum, mean, extrema with their positions and norms
+ * are printed; its histogram is drawn as a picture, and a copy gets the
+ * library's seeded Gaussian noise. */
+static int measureDemo(const char* dir, const Pxl8u* img, int step) {
+    PxlSize roi = {W, H};
+    Pxl64f sum = 0, mean = 0, l1 = 0, l2 = 0, inf = 0;
+    Pxl8u lo = 0, hi = 0;
+    Pxl32s lx = 0, ly = 0, hx = 0, hy = 0, hist[256], levels[257];
+    int ok = pxliSum_8u_C1R(img, step, roi, &sum) == pxlStsOk;
+    ok &= pxliMean_8u_C1R(img, step, roi, &mean) == pxlStsOk;
+    ok &= pxliMinIndx_8u_C1R(img, step, roi, &lo, &lx, &ly) == pxlStsOk;
+    ok &= pxliMaxIndx_8u_C1R(img, step, roi, &hi, &hx, &hy) == pxlStsOk;
+    ok &= pxliNorm_L1_8u_C1R(img, step, roi, &l1) == pxlStsOk;
+    ok &= pxliNorm_L2_8u_C1R(img, step, roi, &l2) == pxlStsOk;
+    ok &= pxliNorm_Inf_8u_C1R(img, step, roi, &inf) == pxlStsOk;
+    ok &= pxliHistogramEven_8u_C1R(img, step, roi, hist, levels, 257, 0, 256) == pxlStsOk;
+    printf("measures of input_a: sum %.0f, mean %.4f, min %d at (%d, %d), max %d at (%d, %d), "
+           "norms L1 %.0f L2 %.2f Inf %.0f\n", sum, mean, lo, lx, ly, hi, hx, hy, l1, l2, inf);
+    /* The histogram as 256 bars, each scaled to the tallest. */
+    enum { HH = 128 };
+    static Pxl8u bars[HH * 256];
+    Pxl32s top = 1;
+    for (int k = 0; k < 256; ++k) top = hist[k] > top ? hist[k] : top;
+    for (int k = 0; k < 256; ++k) {
+        int h = (int)((long long)hist[k] * HH / top);
+        for (int y = 0; y < HH; ++y) bars[y * 256 + k] = (Pxl8u)(HH - y <= h ? 40 : 235);
+    }
+    writePnmSized(dir, "histogram", bars, 256, 1, 256, HH);
+    Pxl8u* noisy = (Pxl8u*)malloc((size_t)W * H);
+    Pxl32u seed = 2026;
+    if (!noisy) return 0;
+    for (int y = 0; y < H; ++y) memcpy(noisy + y * W, img + y * step, W);
+    ok &= pxliAddRandGauss_Direct_8u_C1IR(noisy, W, roi, 0, 24, &seed) == pxlStsOk;
+    writePnm(dir, "noisy", noisy, W, 1);
+    free(noisy);
     return ok;
 }
 
@@ -236,6 +272,8 @@ int main(int argc, char** argv) {
     }
 
     ok &= filterTour(dir, a, s1, t, &nt);
+
+    ok &= measureDemo(dir, a, s1);
 
     printLibraryLevel();
     printf("pxl_demo %s: %s, %d results in %s, %d threads (", pxliGetLibVersion()->versionText,

@@ -1490,6 +1490,551 @@ PXL_API void PXL_CALL pxliFree(void* ptr);
 /* ---- pxliGetLibVersion: the static version record of this build */
 PXL_API const PxlLibVersion* PXL_CALL pxliGetLibVersion(void);
 
+/* ---- pxliSum, pxliMean, pxliMin, pxliMax, pxliMinMax, pxliMinIndx, pxliMaxIndx, pxliCountInRange: per-channel results; 32f hint 2 takes the accurate route */
+PXL_API PxlStatus PXL_CALL pxliSum_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl64f* sum);
+PXL_API PxlStatus PXL_CALL pxliSum_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl64f* sum);
+PXL_API PxlStatus PXL_CALL pxliSum_8u_C4R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl64f* sum);
+PXL_API PxlStatus PXL_CALL pxliSum_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl64f* sum);
+PXL_API PxlStatus PXL_CALL pxliSum_16s_C1R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* sum);
+PXL_API PxlStatus PXL_CALL pxliSum_16s_C3R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* sum);
+PXL_API PxlStatus PXL_CALL pxliSum_16s_C4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* sum);
+PXL_API PxlStatus PXL_CALL pxliSum_16s_AC4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* sum);
+PXL_API PxlStatus PXL_CALL pxliSum_16u_C1R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* sum);
+PXL_API PxlStatus PXL_CALL pxliSum_16u_C3R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* sum);
+PXL_API PxlStatus PXL_CALL pxliSum_16u_C4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* sum);
+PXL_API PxlStatus PXL_CALL pxliSum_16u_AC4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* sum);
+PXL_API PxlStatus PXL_CALL pxliSum_32f_C1R(const Pxl32f* src, int srcStep, PxlSize roi, Pxl64f* sum,
+    Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliSum_32f_C3R(const Pxl32f* src, int srcStep, PxlSize roi, Pxl64f* sum,
+    Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliSum_32f_C4R(const Pxl32f* src, int srcStep, PxlSize roi, Pxl64f* sum,
+    Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliSum_32f_AC4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* sum, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliMean_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* mean);
+PXL_API PxlStatus PXL_CALL pxliMean_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* mean);
+PXL_API PxlStatus PXL_CALL pxliMean_8u_C4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* mean);
+PXL_API PxlStatus PXL_CALL pxliMean_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* mean);
+PXL_API PxlStatus PXL_CALL pxliMean_16s_C1R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* mean);
+PXL_API PxlStatus PXL_CALL pxliMean_16s_C3R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* mean);
+PXL_API PxlStatus PXL_CALL pxliMean_16s_C4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* mean);
+PXL_API PxlStatus PXL_CALL pxliMean_16s_AC4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* mean);
+PXL_API PxlStatus PXL_CALL pxliMean_16u_C1R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* mean);
+PXL_API PxlStatus PXL_CALL pxliMean_16u_C3R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* mean);
+PXL_API PxlStatus PXL_CALL pxliMean_16u_C4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* mean);
+PXL_API PxlStatus PXL_CALL pxliMean_16u_AC4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* mean);
+PXL_API PxlStatus PXL_CALL pxliMean_32f_C1R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* mean, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliMean_32f_C3R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* mean, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliMean_32f_C4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* mean, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliMean_32f_AC4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* mean, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliMin_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl8u* min);
+PXL_API PxlStatus PXL_CALL pxliMax_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl8u* max);
+PXL_API PxlStatus PXL_CALL pxliMinMax_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl8u* min,
+    Pxl8u* max);
+PXL_API PxlStatus PXL_CALL pxliMinIndx_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl8u* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMaxIndx_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl8u* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMin_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl8u* min);
+PXL_API PxlStatus PXL_CALL pxliMax_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl8u* max);
+PXL_API PxlStatus PXL_CALL pxliMinMax_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl8u* min,
+    Pxl8u* max);
+PXL_API PxlStatus PXL_CALL pxliMinIndx_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl8u* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMaxIndx_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl8u* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMin_8u_C4R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl8u* min);
+PXL_API PxlStatus PXL_CALL pxliMax_8u_C4R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl8u* max);
+PXL_API PxlStatus PXL_CALL pxliMinMax_8u_C4R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl8u* min,
+    Pxl8u* max);
+PXL_API PxlStatus PXL_CALL pxliMinIndx_8u_C4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl8u* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMaxIndx_8u_C4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl8u* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMin_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl8u* min);
+PXL_API PxlStatus PXL_CALL pxliMax_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl8u* max);
+PXL_API PxlStatus PXL_CALL pxliMinMax_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl8u* min, Pxl8u* max);
+PXL_API PxlStatus PXL_CALL pxliMinIndx_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl8u* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMaxIndx_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl8u* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMin_16s_C1R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* min);
+PXL_API PxlStatus PXL_CALL pxliMax_16s_C1R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* max);
+PXL_API PxlStatus PXL_CALL pxliMinMax_16s_C1R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* min, Pxl16s* max);
+PXL_API PxlStatus PXL_CALL pxliMinIndx_16s_C1R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMaxIndx_16s_C1R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMin_16s_C3R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* min);
+PXL_API PxlStatus PXL_CALL pxliMax_16s_C3R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* max);
+PXL_API PxlStatus PXL_CALL pxliMinMax_16s_C3R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* min, Pxl16s* max);
+PXL_API PxlStatus PXL_CALL pxliMinIndx_16s_C3R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMaxIndx_16s_C3R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMin_16s_C4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* min);
+PXL_API PxlStatus PXL_CALL pxliMax_16s_C4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* max);
+PXL_API PxlStatus PXL_CALL pxliMinMax_16s_C4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* min, Pxl16s* max);
+PXL_API PxlStatus PXL_CALL pxliMinIndx_16s_C4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMaxIndx_16s_C4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMin_16s_AC4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* min);
+PXL_API PxlStatus PXL_CALL pxliMax_16s_AC4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* max);
+PXL_API PxlStatus PXL_CALL pxliMinMax_16s_AC4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* min, Pxl16s* max);
+PXL_API PxlStatus PXL_CALL pxliMinIndx_16s_AC4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMaxIndx_16s_AC4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl16s* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMin_32f_C1R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* min);
+PXL_API PxlStatus PXL_CALL pxliMax_32f_C1R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* max);
+PXL_API PxlStatus PXL_CALL pxliMinMax_32f_C1R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* min, Pxl32f* max);
+PXL_API PxlStatus PXL_CALL pxliMinIndx_32f_C1R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMaxIndx_32f_C1R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMin_32f_C3R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* min);
+PXL_API PxlStatus PXL_CALL pxliMax_32f_C3R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* max);
+PXL_API PxlStatus PXL_CALL pxliMinMax_32f_C3R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* min, Pxl32f* max);
+PXL_API PxlStatus PXL_CALL pxliMinIndx_32f_C3R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMaxIndx_32f_C3R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMin_32f_C4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* min);
+PXL_API PxlStatus PXL_CALL pxliMax_32f_C4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* max);
+PXL_API PxlStatus PXL_CALL pxliMinMax_32f_C4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* min, Pxl32f* max);
+PXL_API PxlStatus PXL_CALL pxliMinIndx_32f_C4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMaxIndx_32f_C4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMin_32f_AC4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* min);
+PXL_API PxlStatus PXL_CALL pxliMax_32f_AC4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* max);
+PXL_API PxlStatus PXL_CALL pxliMinMax_32f_AC4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* min, Pxl32f* max);
+PXL_API PxlStatus PXL_CALL pxliMinIndx_32f_AC4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliMaxIndx_32f_AC4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32f* value, Pxl32s* indexX, Pxl32s* indexY);
+PXL_API PxlStatus PXL_CALL pxliCountInRange_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl32s* counts, Pxl8u lower, Pxl8u upper);
+PXL_API PxlStatus PXL_CALL pxliCountInRange_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl32s* counts, const Pxl8u* lower, const Pxl8u* upper);
+PXL_API PxlStatus PXL_CALL pxliCountInRange_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl32s* counts, const Pxl8u* lower, const Pxl8u* upper);
+PXL_API PxlStatus PXL_CALL pxliCountInRange_32f_C1R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32s* counts, Pxl32f lower, Pxl32f upper);
+PXL_API PxlStatus PXL_CALL pxliCountInRange_32f_C3R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32s* counts, const Pxl32f* lower, const Pxl32f* upper);
+PXL_API PxlStatus PXL_CALL pxliCountInRange_32f_AC4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32s* counts, const Pxl32f* lower, const Pxl32f* upper);
+
+/* ---- pxliNorm, pxliNormDiff, pxliNormRel: Inf, L1, L2; NormRel warns (+6) on a zero denominator */
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_8u_C1R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_8u_C1R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_8u_C3R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_8u_C3R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_8u_C4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_8u_C4R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_8u_C4R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_8u_AC4R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_8u_AC4R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_16s_C1R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_16s_C1R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_16s_C1R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_16s_C3R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_16s_C3R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_16s_C3R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_16s_C4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_16s_C4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_16s_C4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_16s_AC4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_16s_AC4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_16s_AC4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_16u_C1R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_16u_C1R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_16u_C1R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_16u_C3R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_16u_C3R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_16u_C3R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_16u_C4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_16u_C4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_16u_C4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_16u_AC4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_16u_AC4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_16u_AC4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_32f_C1R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_32f_C1R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_32f_C1R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_32f_C3R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_32f_C3R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_32f_C3R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_32f_C4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_32f_C4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_32f_C4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_32f_AC4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_Inf_32f_AC4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_Inf_32f_AC4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_8u_C1R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_8u_C1R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_8u_C3R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_8u_C3R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_8u_C4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_8u_C4R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_8u_C4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_8u_AC4R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_8u_AC4R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_16s_C1R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_16s_C1R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_16s_C1R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_16s_C3R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_16s_C3R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_16s_C3R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_16s_C4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_16s_C4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_16s_C4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_16s_AC4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_16s_AC4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_16s_AC4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_16u_C1R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_16u_C1R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_16u_C1R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_16u_C3R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_16u_C3R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_16u_C3R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_16u_C4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_16u_C4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_16u_C4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_16u_AC4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_16u_AC4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_16u_AC4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_32f_C1R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_32f_C1R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_32f_C1R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_32f_C3R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_32f_C3R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_32f_C3R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_32f_C4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_32f_C4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_32f_C4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNorm_L1_32f_AC4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L1_32f_AC4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L1_32f_AC4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_8u_C1R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_8u_C1R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_8u_C3R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_8u_C3R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_8u_C4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_8u_C4R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_8u_C4R(const Pxl8u* src1, int src1Step, const Pxl8u* src2,
+    int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_8u_AC4R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_8u_AC4R(const Pxl8u* src1, int src1Step,
+    const Pxl8u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_16s_C1R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_16s_C1R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_16s_C1R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_16s_C3R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_16s_C3R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_16s_C3R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_16s_C4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_16s_C4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_16s_C4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_16s_AC4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_16s_AC4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_16s_AC4R(const Pxl16s* src1, int src1Step,
+    const Pxl16s* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_16u_C1R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_16u_C1R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_16u_C1R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_16u_C3R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_16u_C3R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_16u_C3R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_16u_C4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_16u_C4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_16u_C4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_16u_AC4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_16u_AC4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_16u_AC4R(const Pxl16u* src1, int src1Step,
+    const Pxl16u* src2, int src2Step, PxlSize roi, Pxl64f* value);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_32f_C1R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_32f_C1R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_32f_C1R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_32f_C3R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_32f_C3R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_32f_C3R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_32f_C4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_32f_C4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_32f_C4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNorm_L2_32f_AC4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormDiff_L2_32f_AC4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNormRel_L2_32f_AC4R(const Pxl32f* src1, int src1Step,
+    const Pxl32f* src2, int src2Step, PxlSize roi, Pxl64f* value, Pxl32s hint);
+PXL_API PxlStatus PXL_CALL pxliNorm_Inf_32s_C1R(const Pxl32s* src, int srcStep, PxlSize roi,
+    Pxl64f* value);
+
+/* ---- pxliHistogramRange, pxliHistogramEven: bin k counts levels[k] <= x < levels[k + 1] */
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl32s* hist, const Pxl32s* levels, int nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, const Pxl32s* const* levels, const int* nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_8u_C4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, const Pxl32s* const* levels, const int* nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, const Pxl32s* const* levels, const int* nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_16s_C1R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl32s* hist, const Pxl32s* levels, int nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_16s_C3R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, const Pxl32s* const* levels, const int* nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_16s_C4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, const Pxl32s* const* levels, const int* nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_16s_AC4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, const Pxl32s* const* levels, const int* nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_16u_C1R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl32s* hist, const Pxl32s* levels, int nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_16u_C3R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, const Pxl32s* const* levels, const int* nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_16u_C4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, const Pxl32s* const* levels, const int* nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_16u_AC4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, const Pxl32s* const* levels, const int* nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_32f_C1R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32s* hist, const Pxl32f* levels, int nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_32f_C3R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, const Pxl32f* const* levels, const int* nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_32f_C4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, const Pxl32f* const* levels, const int* nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramRange_32f_AC4R(const Pxl32f* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, const Pxl32f* const* levels, const int* nLevels);
+PXL_API PxlStatus PXL_CALL pxliHistogramEven_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl32s* hist, Pxl32s* levels, int nLevels, Pxl32s lowerLevel, Pxl32s upperLevel);
+PXL_API PxlStatus PXL_CALL pxliHistogramEven_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, Pxl32s* const* levels, const int* nLevels, const Pxl32s* lowerLevel,
+    const Pxl32s* upperLevel);
+PXL_API PxlStatus PXL_CALL pxliHistogramEven_8u_C4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, Pxl32s* const* levels, const int* nLevels, const Pxl32s* lowerLevel,
+    const Pxl32s* upperLevel);
+PXL_API PxlStatus PXL_CALL pxliHistogramEven_8u_AC4R(const Pxl8u* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, Pxl32s* const* levels, const int* nLevels, const Pxl32s* lowerLevel,
+    const Pxl32s* upperLevel);
+PXL_API PxlStatus PXL_CALL pxliHistogramEven_16s_C1R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl32s* hist, Pxl32s* levels, int nLevels, Pxl32s lowerLevel, Pxl32s upperLevel);
+PXL_API PxlStatus PXL_CALL pxliHistogramEven_16s_C3R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, Pxl32s* const* levels, const int* nLevels, const Pxl32s* lowerLevel,
+    const Pxl32s* upperLevel);
+PXL_API PxlStatus PXL_CALL pxliHistogramEven_16s_C4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, Pxl32s* const* levels, const int* nLevels, const Pxl32s* lowerLevel,
+    const Pxl32s* upperLevel);
+PXL_API PxlStatus PXL_CALL pxliHistogramEven_16s_AC4R(const Pxl16s* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, Pxl32s* const* levels, const int* nLevels, const Pxl32s* lowerLevel,
+    const Pxl32s* upperLevel);
+PXL_API PxlStatus PXL_CALL pxliHistogramEven_16u_C1R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl32s* hist, Pxl32s* levels, int nLevels, Pxl32s lowerLevel, Pxl32s upperLevel);
+PXL_API PxlStatus PXL_CALL pxliHistogramEven_16u_C3R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, Pxl32s* const* levels, const int* nLevels, const Pxl32s* lowerLevel,
+    const Pxl32s* upperLevel);
+PXL_API PxlStatus PXL_CALL pxliHistogramEven_16u_C4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, Pxl32s* const* levels, const int* nLevels, const Pxl32s* lowerLevel,
+    const Pxl32s* upperLevel);
+PXL_API PxlStatus PXL_CALL pxliHistogramEven_16u_AC4R(const Pxl16u* src, int srcStep, PxlSize roi,
+    Pxl32s* const* hist, Pxl32s* const* levels, const int* nLevels, const Pxl32s* lowerLevel,
+    const Pxl32s* upperLevel);
+
 /* ---- pxliCopyConstBorder: src placed at (top, left) of a dstRoi image, the rest filled with value */
 PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_8u_C1R(const Pxl8u* src, int srcStep, PxlSize srcRoi,
     Pxl8u* dst, int dstStep, PxlSize dstRoi, int top, int left, Pxl8u value);
@@ -3398,6 +3943,104 @@ PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_AC4R(const Pxl32f* src, 
 PXL_API PxlStatus PXL_CALL pxliThreshold_LTValGTVal_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
     PxlSize roi, const Pxl32f* thresholdLT, const Pxl32f* valueLT, const Pxl32f* thresholdGT,
     const Pxl32f* valueGT);
+
+/* ---- pxliImageRamp, pxliAddRandUniform_Direct, pxliAddRandGauss_Direct: noise from a seed the caller carries; the last state is stored back */
+PXL_API PxlStatus PXL_CALL pxliImageRamp_8u_C1R(Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f offset,
+    Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_8u_C3R(Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f offset,
+    Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_8u_C4R(Pxl8u* dst, int dstStep, PxlSize roi, Pxl32f offset,
+    Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_8u_AC4R(Pxl8u* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_8s_C1R(Pxl8s* dst, int dstStep, PxlSize roi, Pxl32f offset,
+    Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_8s_C3R(Pxl8s* dst, int dstStep, PxlSize roi, Pxl32f offset,
+    Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_8s_C4R(Pxl8s* dst, int dstStep, PxlSize roi, Pxl32f offset,
+    Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_8s_AC4R(Pxl8s* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_16u_C1R(Pxl16u* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_16u_C3R(Pxl16u* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_16u_C4R(Pxl16u* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_16u_AC4R(Pxl16u* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_16s_C1R(Pxl16s* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_16s_C3R(Pxl16s* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_16s_C4R(Pxl16s* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_16s_AC4R(Pxl16s* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_32s_C1R(Pxl32s* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_32s_C3R(Pxl32s* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_32s_C4R(Pxl32s* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_32s_AC4R(Pxl32s* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_32f_C1R(Pxl32f* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_32f_C3R(Pxl32f* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_32f_C4R(Pxl32f* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliImageRamp_32f_AC4R(Pxl32f* dst, int dstStep, PxlSize roi,
+    Pxl32f offset, Pxl32f slope, Pxl32s axis);
+PXL_API PxlStatus PXL_CALL pxliAddRandUniform_Direct_8u_C1IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, Pxl8u low, Pxl8u high, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandUniform_Direct_8u_C3IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, Pxl8u low, Pxl8u high, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandUniform_Direct_8u_C4IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, Pxl8u low, Pxl8u high, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandUniform_Direct_8u_AC4IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, Pxl8u low, Pxl8u high, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandUniform_Direct_16s_C1IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, Pxl16s low, Pxl16s high, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandUniform_Direct_16s_C3IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, Pxl16s low, Pxl16s high, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandUniform_Direct_16s_C4IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, Pxl16s low, Pxl16s high, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandUniform_Direct_16s_AC4IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, Pxl16s low, Pxl16s high, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandUniform_Direct_32f_C1IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, Pxl32f low, Pxl32f high, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandUniform_Direct_32f_C3IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, Pxl32f low, Pxl32f high, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandUniform_Direct_32f_C4IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, Pxl32f low, Pxl32f high, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandUniform_Direct_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, Pxl32f low, Pxl32f high, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_8u_C1IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, Pxl8u mean, Pxl8u deviation, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_8u_C3IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, Pxl8u mean, Pxl8u deviation, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_8u_C4IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, Pxl8u mean, Pxl8u deviation, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_8u_AC4IR(Pxl8u* srcDst, int srcDstStep,
+    PxlSize roi, Pxl8u mean, Pxl8u deviation, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_16s_C1IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, Pxl16s mean, Pxl16s deviation, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_16s_C3IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, Pxl16s mean, Pxl16s deviation, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_16s_C4IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, Pxl16s mean, Pxl16s deviation, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_16s_AC4IR(Pxl16s* srcDst, int srcDstStep,
+    PxlSize roi, Pxl16s mean, Pxl16s deviation, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_32f_C1IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, Pxl32f mean, Pxl32f deviation, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_32f_C3IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, Pxl32f mean, Pxl32f deviation, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_32f_C4IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, Pxl32f mean, Pxl32f deviation, Pxl32u* seed);
+PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
+    PxlSize roi, Pxl32f mean, Pxl32f deviation, Pxl32u* seed);
 
 #ifdef __cplusplus
 }

@@ -25,6 +25,7 @@ struct SweepEntry {
   int images;         // image or vector pointers, in argument order
   bool valuePtr;      // the constant is passed by pointer
   int planar;         // bit i set: image i is a plane array
+  int steps;          // row steps: fewer than images where a result pointer has none
   const void* fn;     // the linked member, or null where it is looked up by name
   PxlStatus (*thunk)(const void* fn, const SweepArgs&);
 

@@ -45,21 +45,22 @@ std::vector<Case> casesFor(const SweepEntry& e) {
     cs.push_back({"width " + std::to_string(n), [n](SweepArgs& a) { a.roi.width = n; }, pxlStsSize});
     cs.push_back({"height " + std::to_string(n), [n](SweepArgs& a) { a.roi.height = n; }, pxlStsSize});
   }
-  const int last = e.images - 1;
+  const int last = e.images - 1, lastStep = e.steps - 1;
   cs.push_back({"null and width 0", [](SweepArgs& a) { a.img[0] = nullptr, a.roi.width = 0; },
                 e.folds ? pxlStsSize : pxlStsNullPtr});
   cs.push_back({"null and height 0", [last](SweepArgs& a) { a.img[last] = nullptr, a.roi.height = 0; },
                 pxlStsNullPtr});
   if (steps) {
-    for (int j = 0; j < e.images; ++j)
+    for (int j = 0; j < e.steps; ++j)
       for (int n : {0, -1})
         cs.push_back({"step " + std::to_string(j) + " = " + std::to_string(n),
                       [j, n](SweepArgs& a) { a.step[j] = n; }, pxlStsStep});
     cs.push_back({"width 0 and step -1", [](SweepArgs& a) { a.roi.width = 0, a.step[0] = -1; },
                   stepsFirst ? pxlStsStep : pxlStsSize});
-    cs.push_back({"height -1 and last step 0", [last](SweepArgs& a) { a.roi.height = -1, a.step[last] = 0; },
+    cs.push_back({"height -1 and last step 0",
+                  [lastStep](SweepArgs& a) { a.roi.height = -1, a.step[lastStep] = 0; },
                   stepsFirst ? pxlStsStep : pxlStsSize});
-    cs.push_back({"null and step 0", [last](SweepArgs& a) { a.img[0] = nullptr, a.step[last] = 0; },
+    cs.push_back({"null and step 0", [lastStep](SweepArgs& a) { a.img[0] = nullptr, a.step[lastStep] = 0; },
                   pxlStsNullPtr});
   } else {
     // Steps are not examined at all: the size fault is the one reported.

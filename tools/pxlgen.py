@@ -164,7 +164,7 @@ def sweep_text(members):
         # linked one, or one of a level's library loaded by path).
         call = f'((decltype(&{m.name}))f)({", ".join(args)})'
         out.append(f'  {{"{m.name}", "{m.order}", {str(m.folds).lower()}, {str(m.vector).lower()}, '
-                   f'{nimg}, {str(value_ptr).lower()}, {planar}, PXL_SWEEP_FN({m.name}),')
+                   f'{nimg}, {str(value_ptr).lower()}, {planar}, {nstep}, PXL_SWEEP_FN({m.name}),')
         out.append(f'   [](const void* f, const SweepArgs& a) -> PxlStatus {{ return {call}; }}}},')
     out += ['};', '']
     return '\n'.join(out)

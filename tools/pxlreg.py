@@ -181,7 +181,7 @@ class Custom:
     def __init__(self, heading, file, entries, doc=''):
         self.file = file
         self._heading = heading
-        self.entries = entries    # [(name, ret, [(ctype, name)], call)]
+        self.entries = entries    # [(name, ret, [(ctype, name)], call[, order, sweep])]
         self.doc = doc
         self.prefix = heading[:4]
 
@@ -189,7 +189,15 @@ class Custom:
         return self._heading
 
     def members(self):
-        return [Member(n, r, a, c, self._heading, self.file) for n, r, a, c in self.entries]
+        out = []
+        for e in self.entries:
+            # An entry may add its check order and accepted extra values, so
+            # that the argument sweep covers it: (..., order, sweep).
+            m = Member(*e[:4], self._heading, self.file)
+            if len(e) > 4:
+                m.order, m.sweep = e[4], e[5]
+            out.append(m)
+        return out
 
 
 def image(stem, **kw):
