@@ -991,6 +991,62 @@ PXL_API void PXL_CALL pxliFree(void* ptr);
 /* ---- pxliGetLibVersion: the static version record of this build */
 PXL_API const PxlLibVersion* PXL_CALL pxliGetLibVersion(void);
 
+/* ---- pxliResize: the ROI of src scaled by xFactor, yFactor into dst; modes 1, 2, 4, 8 (area, factors at most 1), 16 (Lanczos, three lobes) */
+PXL_API PxlStatus PXL_CALL pxliResize_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_8u_C3R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_8u_C4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_8u_AC4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_8u_P3R(const Pxl8u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlSize dstRoiSize, double xFactor,
+    double yFactor, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_8u_P4R(const Pxl8u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlSize dstRoiSize, double xFactor,
+    double yFactor, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_16u_C1R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_16u_C3R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_16u_C4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_16u_AC4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_16u_P3R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlSize dstRoiSize,
+    double xFactor, double yFactor, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_16u_P4R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlSize dstRoiSize,
+    double xFactor, double yFactor, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_32f_C1R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_32f_C3R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_32f_C4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_32f_AC4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_32f_P3R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlSize dstRoiSize,
+    double xFactor, double yFactor, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_32f_P4R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlSize dstRoiSize,
+    double xFactor, double yFactor, int interpolation);
+
 /* ---- pxliCopyConstBorder: src placed at (top, left) of a dstRoi image, the rest filled with value */
 PXL_API PxlStatus PXL_CALL pxliCopyConstBorder_8u_C1R(const Pxl8u* src, int srcStep, PxlSize srcRoi,
     Pxl8u* dst, int dstStep, PxlSize dstRoi, int top, int left, Pxl8u value);
