@@ -991,6 +991,62 @@ PXL_API void PXL_CALL pxliFree(void* ptr);
 /* ---- pxliGetLibVersion: the static version record of this build */
 PXL_API const PxlLibVersion* PXL_CALL pxliGetLibVersion(void);
 
+/* ---- pxliRemap: dst(x, y) = src at (xMap(x, y), yMap(x, y)); positions outside the source ROI leave dst as it was; modes 1, 2, 4 */
+PXL_API PxlStatus PXL_CALL pxliRemap_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl8u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_8u_C3R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl8u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_8u_C4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl8u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_8u_AC4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl8u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_8u_P3R(const Pxl8u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep,
+    Pxl8u* const* dst, int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_8u_P4R(const Pxl8u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep,
+    Pxl8u* const* dst, int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_16u_C1R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl16u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_16u_C3R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl16u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_16u_C4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl16u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_16u_AC4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl16u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_16u_P3R(const Pxl16u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep,
+    Pxl16u* const* dst, int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_16u_P4R(const Pxl16u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep,
+    Pxl16u* const* dst, int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_32f_C1R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl32f* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_32f_C3R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl32f* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_32f_C4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl32f* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_32f_AC4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl32f* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_32f_P3R(const Pxl32f* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep,
+    Pxl32f* const* dst, int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_32f_P4R(const Pxl32f* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep,
+    Pxl32f* const* dst, int dstStep, PxlSize dstRoiSize, int interpolation);
+
 /* ---- pxliResize: the ROI of src scaled by xFactor, yFactor into dst; modes 1, 2, 4, 8 (area, factors at most 1), 16 (Lanczos, three lobes) */
 PXL_API PxlStatus PXL_CALL pxliResize_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
     PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
