@@ -991,6 +991,26 @@ PXL_API void PXL_CALL pxliFree(void* ptr);
 /* ---- pxliGetLibVersion: the static version record of this build */
 PXL_API const PxlLibVersion* PXL_CALL pxliGetLibVersion(void);
 
+/* ---- pxliAffineQueries: quadrangles (top-left, top-right, bottom-right, bottom-left) and bounds ((min x, min y), (max x, max y)) of a source rectangle; angles in degrees */
+PXL_API PxlStatus PXL_CALL pxliGetAffineQuad(PxlRect srcRoi, double (*quad)[2],
+    const double (*coeffs)[3]);
+PXL_API PxlStatus PXL_CALL pxliGetAffineBound(PxlRect srcRoi, double (*bound)[2],
+    const double (*coeffs)[3]);
+PXL_API PxlStatus PXL_CALL pxliGetAffineTransform(PxlRect srcRoi, const double (*quad)[2],
+    double (*coeffs)[3]);
+PXL_API PxlStatus PXL_CALL pxliGetRotateQuad(PxlRect srcRoi, double (*quad)[2], double angle,
+    double xShift, double yShift);
+PXL_API PxlStatus PXL_CALL pxliGetRotateBound(PxlRect srcRoi, double (*bound)[2], double angle,
+    double xShift, double yShift);
+PXL_API PxlStatus PXL_CALL pxliGetRotateShift(double xCenter, double yCenter, double angle,
+    double* xShift, double* yShift);
+PXL_API PxlStatus PXL_CALL pxliAddRotateShift(double xCenter, double yCenter, double angle,
+    double* xShift, double* yShift);
+PXL_API PxlStatus PXL_CALL pxliGetShearQuad(PxlRect srcRoi, double (*quad)[2], double xShear,
+    double yShear, double xShift, double yShift);
+PXL_API PxlStatus PXL_CALL pxliGetShearBound(PxlRect srcRoi, double (*bound)[2], double xShear,
+    double yShear, double xShift, double yShift);
+
 /* ---- pxliRemap: dst(x, y) = src at (xMap(x, y), yMap(x, y)); positions outside the source ROI leave dst as it was; modes 1, 2, 4 */
 PXL_API PxlStatus PXL_CALL pxliRemap_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
     PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl8u* dst,
