@@ -1490,6 +1490,138 @@ PXL_API void PXL_CALL pxliFree(void* ptr);
 /* ---- pxliGetLibVersion: the static version record of this build */
 PXL_API const PxlLibVersion* PXL_CALL pxliGetLibVersion(void);
 
+/* ---- pxliAffineQueries: quadrangles (top-left, top-right, bottom-right, bottom-left) and bounds ((min x, min y), (max x, max y)) of a source rectangle; angles in degrees */
+PXL_API PxlStatus PXL_CALL pxliGetAffineQuad(PxlRect srcRoi, double (*quad)[2],
+    const double (*coeffs)[3]);
+PXL_API PxlStatus PXL_CALL pxliGetAffineBound(PxlRect srcRoi, double (*bound)[2],
+    const double (*coeffs)[3]);
+PXL_API PxlStatus PXL_CALL pxliGetAffineTransform(PxlRect srcRoi, const double (*quad)[2],
+    double (*coeffs)[3]);
+PXL_API PxlStatus PXL_CALL pxliGetRotateQuad(PxlRect srcRoi, double (*quad)[2], double angle,
+    double xShift, double yShift);
+PXL_API PxlStatus PXL_CALL pxliGetRotateBound(PxlRect srcRoi, double (*bound)[2], double angle,
+    double xShift, double yShift);
+PXL_API PxlStatus PXL_CALL pxliGetRotateShift(double xCenter, double yCenter, double angle,
+    double* xShift, double* yShift);
+PXL_API PxlStatus PXL_CALL pxliAddRotateShift(double xCenter, double yCenter, double angle,
+    double* xShift, double* yShift);
+PXL_API PxlStatus PXL_CALL pxliGetShearQuad(PxlRect srcRoi, double (*quad)[2], double xShear,
+    double yShear, double xShift, double yShift);
+PXL_API PxlStatus PXL_CALL pxliGetShearBound(PxlRect srcRoi, double (*bound)[2], double xShear,
+    double yShear, double xShift, double yShift);
+
+/* ---- pxliRemap: dst(x, y) = src at (xMap(x, y), yMap(x, y)); positions outside the source ROI leave dst as it was; modes 1, 2, 4 */
+PXL_API PxlStatus PXL_CALL pxliRemap_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl8u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_8u_C3R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl8u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_8u_C4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl8u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_8u_AC4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl8u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_8u_P3R(const Pxl8u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep,
+    Pxl8u* const* dst, int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_8u_P4R(const Pxl8u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep,
+    Pxl8u* const* dst, int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_16u_C1R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl16u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_16u_C3R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl16u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_16u_C4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl16u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_16u_AC4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl16u* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_16u_P3R(const Pxl16u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep,
+    Pxl16u* const* dst, int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_16u_P4R(const Pxl16u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep,
+    Pxl16u* const* dst, int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_32f_C1R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl32f* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_32f_C3R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl32f* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_32f_C4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl32f* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_32f_AC4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl32f* dst,
+    int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_32f_P3R(const Pxl32f* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep,
+    Pxl32f* const* dst, int dstStep, PxlSize dstRoiSize, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRemap_32f_P4R(const Pxl32f* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep,
+    Pxl32f* const* dst, int dstStep, PxlSize dstRoiSize, int interpolation);
+
+/* ---- pxliResize: the ROI of src scaled by xFactor, yFactor into dst; modes 1, 2, 4, 8 (area, factors at most 1), 16 (Lanczos, three lobes) */
+PXL_API PxlStatus PXL_CALL pxliResize_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_8u_C3R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_8u_C4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_8u_AC4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_8u_P3R(const Pxl8u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlSize dstRoiSize, double xFactor,
+    double yFactor, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_8u_P4R(const Pxl8u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlSize dstRoiSize, double xFactor,
+    double yFactor, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_16u_C1R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_16u_C3R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_16u_C4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_16u_AC4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_16u_P3R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlSize dstRoiSize,
+    double xFactor, double yFactor, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_16u_P4R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlSize dstRoiSize,
+    double xFactor, double yFactor, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_32f_C1R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_32f_C3R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_32f_C4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_32f_AC4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlSize dstRoiSize, double xFactor, double yFactor,
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_32f_P3R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlSize dstRoiSize,
+    double xFactor, double yFactor, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliResize_32f_P4R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlSize dstRoiSize,
+    double xFactor, double yFactor, int interpolation);
+
 /* ---- pxliSum, pxliMean, pxliMin, pxliMax, pxliMinMax, pxliMinIndx, pxliMaxIndx, pxliCountInRange: per-channel results; 32f hint 2 takes the accurate route */
 PXL_API PxlStatus PXL_CALL pxliSum_8u_C1R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl64f* sum);
 PXL_API PxlStatus PXL_CALL pxliSum_8u_C3R(const Pxl8u* src, int srcStep, PxlSize roi, Pxl64f* sum);

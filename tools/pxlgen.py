@@ -45,9 +45,14 @@ def all_members(fams):
     return members
 
 
+def param(t, n):
+    """One C parameter; a pointer to arrays ('double (*)[3]') takes its name inside."""
+    return t.replace('(*)', f'(*{n})') if '(*)' in t else f'{t} {n}'
+
+
 def declaration(m):
     head = f'PXL_API {m.ret} PXL_CALL {m.name}('
-    params = [f'{t} {n}' for t, n in m.args] or ['void']
+    params = [param(t, n) for t, n in m.args] or ['void']
     one = head + ', '.join(params) + ');'
     if len(one) <= 100:
         return one
@@ -110,7 +115,7 @@ def shim_texts(members):
                '// C entry points of this file, each forwarding to its implementation.',
                '#include "pxldefs.h"', '', 'extern "C" {', '']
         for m in ms:
-            params = ', '.join(f'{t} {n}' for t, n in m.args) or 'void'
+            params = ', '.join(param(t, n) for t, n in m.args) or 'void'
             out.append(f'PXL_API {m.ret} PXL_CALL {m.name}({params}) {{')
             out.append(f'  return {m.call};')
             out.append('}')
