@@ -105,6 +105,8 @@ static int filterTour(const char* dir, const Pxl8u* a, int s1, struct Timing* t,
     ok &= pxliFilterSharpen_8u_C1R(src, sb, out, so, roi) == pxlStsOk;
     writePnm(dir, "sharpened", out, so, 1);
     pxliFree(bordered); pxliFree(gx); pxliFree(gy); pxliFree(out);
+    return ok;
+}
 
 /* Measures of one image: sum, mean, extrema with their positions and norms
  * are printed; its histogram is drawn as a picture, and a copy gets the
