@@ -3,6 +3,8 @@
 // of arguments. Shared by the argument sweep and the differential tests.
 #pragma once
 
+#include <cstring>
+
 #include "pxli.h"
 #include "pxls.h"
 
@@ -32,6 +34,15 @@ struct SweepEntry {
   PxlStatus call(const SweepArgs& a) const { return thunk(fn, a); }
   PxlStatus callAt(const void* member, const SweepArgs& a) const { return thunk(member, a); }
 };
+
+// A constant passed by value, read from wherever the arguments keep it (at
+// any address: the sweep also calls members with misaligned operands).
+template <class T>
+inline T sweepValue(const void* p) {
+  T v;
+  std::memcpy(&v, p, sizeof v);
+  return v;
+}
 
 // A program that loads the library by path defines this as null first.
 #ifndef PXL_SWEEP_FN

@@ -154,7 +154,7 @@ def sweep_text(members):
                     value_ptr = True
                     args.append(f'({t})a.value')
                 else:
-                    args.append(f'*(const {t}*)a.value')
+                    args.append(f'sweepValue<{t}>(a.value)')
             elif n.endswith('Step'):
                 args.append(f'a.step[{nstep}]')
                 nstep += 1
