@@ -145,23 +145,23 @@ void runThree(const Three& k, const View<S, D, L>& v, Acc<S>* t) {
       const S* b = mid - C;
       const S* c = v.srow(y + 1) - C;
       for (int i = 0; i < n; ++i)
-        t[i] = A(k.col[0]) * A(ld(a + i)) + A(k.col[1]) * A(ld(b + i)) + A(k.col[2]) * A(ld(c + i));
+        t[i] = A(k.col[0]) * A(loadSample(a + i)) + A(k.col[1]) * A(loadSample(b + i)) + A(k.col[2]) * A(loadSample(c + i));
       const A w0 = A(k.row[0]), w1 = A(k.row[1]), w2 = A(k.row[2]), wc = A(k.centre);
       if (P == C) {
         // Every sample is filtered: one flat loop over the row's samples.
         for (int i = 0; i < w * C; ++i) {
           const A* m = t + C + i;
           A r = w0 * m[-C] + w1 * m[0] + w2 * m[C];
-          if (k.minus) r = wc * A(ld(mid + i)) - r;
-          st(out + i, finish<D>(r, k.div));
+          if (k.minus) r = wc * A(loadSample(mid + i)) - r;
+          storeSample(out + i, finish<D>(r, k.div));
         }
       } else {
         for (int x = 0; x < w; ++x)
           for (int ch = 0; ch < P; ++ch) {
             const A* m = t + (x + 1) * C + ch;
             A r = w0 * m[-C] + w1 * m[0] + w2 * m[C];
-            if (k.minus) r = wc * A(ld(mid + x * C + ch)) - r;
-            st(out + x * C + ch, finish<D>(r, k.div));
+            if (k.minus) r = wc * A(loadSample(mid + x * C + ch)) - r;
+            storeSample(out + x * C + ch, finish<D>(r, k.div));
           }
       }
     } else {
@@ -172,15 +172,15 @@ void runThree(const Three& k, const View<S, D, L>& v, Acc<S>* t) {
         for (int x = 0; x < w; ++x)
           for (int ch = 0; ch < P; ++ch) {
             const S* m = s + x * C + ch;
-            u[x * C + ch] = A(k.row[0]) * A(ld(m - C)) + A(k.row[1]) * A(ld(m)) + A(k.row[2]) * A(ld(m + C));
+            u[x * C + ch] = A(k.row[0]) * A(loadSample(m - C)) + A(k.row[1]) * A(loadSample(m)) + A(k.row[2]) * A(loadSample(m + C));
           }
       }
       for (int x = 0; x < w; ++x)
         for (int ch = 0; ch < P; ++ch) {
           const int i = x * C + ch;
           A r = A(k.col[0]) * t[i] + A(k.col[1]) * t[n + i] + A(k.col[2]) * t[2 * n + i];
-          if (k.minus) r = A(k.centre) * A(ld(mid + i)) - r;
-          st(out + i, finish<D>(r, k.div));
+          if (k.minus) r = A(k.centre) * A(loadSample(mid + i)) - r;
+          storeSample(out + i, finish<D>(r, k.div));
         }
     }
   }
@@ -189,8 +189,8 @@ void runThree(const Three& k, const View<S, D, L>& v, Acc<S>* t) {
 // Dot product of five taps centred on p, one pixel (C samples) apart.
 template <class A, class S>
 inline A dot5(const int* w, const S* p, int C) {
-  A r = A(w[0]) * A(ld(p - 2 * C));
-  for (int i = 1; i < 5; ++i) r = r + A(w[i]) * A(ld(p + (i - 2) * C));
+  A r = A(w[0]) * A(loadSample(p - 2 * C));
+  for (int i = 1; i < 5; ++i) r = r + A(w[i]) * A(loadSample(p + (i - 2) * C));
   return r;
 }
 
@@ -223,7 +223,7 @@ void runRing5(const Ring5& k, const View<S, D, L>& v, Acc<S>* t) {
     for (int x = 0; x < w; ++x)
       for (int ch = 0; ch < P; ++ch) {
         const int i = x * C + ch;
-        st(out + i, finish<D>(e0[i] + m1[i] + c2[i] + m3[i] + e4[i], k.div));
+        storeSample(out + i, finish<D>(e0[i] + m1[i] + c2[i] + m3[i] + e4[i], k.div));
       }
   }
 }
@@ -242,7 +242,7 @@ void runSep5(const Sep5& k, const View<S, D, Lay::C1>& v, Acc<S>* t) {
     for (int x = 0; x < w; ++x) {
       A r = A(k.col[0]) * t[x];
       for (int j = 1; j < 5; ++j) r = r + A(k.col[j]) * t[j * w + x];
-      st(out + x, finish<D>(r, Div::None));
+      storeSample(out + x, finish<D>(r, Div::None));
     }
   }
 }
@@ -259,13 +259,13 @@ void runRunning5(const View<S, D, L>& v, Acc<S>* t) {
   const int w = v.roi.width;
   const Div div = Hipass ? Div::None : Div::By25;
   auto emit = [&](D* out, const S* mid, int i, A s) {
-    st(out + i, finish<D>(Hipass ? A(25) * A(ld(mid + i)) - s : s, div));
+    storeSample(out + i, finish<D>(Hipass ? A(25) * A(loadSample(mid + i)) - s : s, div));
   };
   if constexpr (!RowFirst) {
     const int n = (w + 4) * C;
     for (int i = 0; i < n; ++i) {
-      A s = A(ld(v.srow(-2) - 2 * C + i));
-      for (int j = -1; j <= 2; ++j) s = s + A(ld(v.srow(j) - 2 * C + i));
+      A s = A(loadSample(v.srow(-2) - 2 * C + i));
+      for (int j = -1; j <= 2; ++j) s = s + A(loadSample(v.srow(j) - 2 * C + i));
       t[i] = s;
     }
     for (int y = 0; y < v.roi.height; ++y) {
@@ -279,7 +279,7 @@ void runRunning5(const View<S, D, L>& v, Acc<S>* t) {
       if (y + 1 < v.roi.height) {
         const S* leave = v.srow(y - 2) - 2 * C;
         const S* enter = v.srow(y + 3) - 2 * C;
-        for (int i = 0; i < n; ++i) t[i] = (t[i] - A(ld(leave + i))) + A(ld(enter + i));
+        for (int i = 0; i < n; ++i) t[i] = (t[i] - A(loadSample(leave + i))) + A(loadSample(enter + i));
       }
     }
   } else {
@@ -386,7 +386,7 @@ PxlStatus roberts(const T* src, int ss, T* dst, int ds, PxlSize roi) {
     for (int x = 0; x < roi.width; ++x)
       for (int ch = 0; ch < P; ++ch) {
         const int i = x * C + ch;
-        st(out + i, saturate<T>(A(ld(s + i)) - A(ld(up + i))));
+        storeSample(out + i, saturate<T>(A(loadSample(s + i)) - A(loadSample(up + i))));
       }
   }
   return pxlStsOk;

@@ -125,14 +125,14 @@ void filterBand(const K* kernel, const Footprint& f, const ScaleRec& sc, const S
           const K kv = kernel[j * f.kw + i];
           const S* p = r + (f.anchor.x - i) * C;
           if (first)
-            for (int s = 0; s < n; ++s) a[s] = product(kv, ld(p + s));
+            for (int s = 0; s < n; ++s) a[s] = product(kv, loadSample(p + s));
           else
-            for (int s = 0; s < n; ++s) a[s] += product(kv, ld(p + s));
+            for (int s = 0; s < n; ++s) a[s] += product(kv, loadSample(p + s));
           first = false;
         }
       }
       for (int x = 0; x < width; ++x)
-        for (int ch = 0; ch < P; ++ch) st(out + x * C + ch, store<K, D>(a[x * C + ch], sc));
+        for (int ch = 0; ch < P; ++ch) storeSample(out + x * C + ch, store<K, D>(a[x * C + ch], sc));
     } else {
       for (int x = 0; x < width; ++x)
         for (int ch = 0; ch < P; ++ch) {
@@ -141,11 +141,11 @@ void filterBand(const K* kernel, const Footprint& f, const ScaleRec& sc, const S
           for (int j = f.kh - 1; j >= 0; --j) {
             const S* p = tapRow(y, j) + (x + f.anchor.x) * C + ch;
             for (int i = f.kw - 1; i >= 0; --i, --t) {
-              const A v = product(kernel[j * f.kw + i], ld(p - i * C));
+              const A v = product(kernel[j * f.kw + i], loadSample(p - i * C));
               a = t == last ? v : a + v;
             }
           }
-          st(out + x * C + ch, store<K, D>(a, sc));
+          storeSample(out + x * C + ch, store<K, D>(a, sc));
         }
     }
   }

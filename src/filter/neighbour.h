@@ -111,17 +111,5 @@ inline float floatOfBits(std::uint32_t bits) {
   return f;
 }
 
-// Samples through memcpy, so that rows off their sample's boundary are
-// defined behaviour.
-template <class T>
-inline T ld(const T* p) {
-  T v;
-  std::memcpy(&v, p, sizeof v);
-  return v;
-}
-template <class T>
-inline void st(T* p, T v) {
-  std::memcpy(p, &v, sizeof v);
-}
 
 }  // namespace pxl::filter

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <type_traits>
 
@@ -34,6 +35,20 @@ template <class T>
 using PartOf = typename Sample<T>::Part;
 template <class T>
 inline constexpr bool kComplex = Sample<T>::parts == 2;
+
+// One sample through a byte copy: a caller's row may start at any byte, also
+// one that is not a multiple of the sample size, and the copy is defined
+// there (it costs nothing on x86).
+template <class T>
+inline T loadSample(const T* p) {
+  T v;
+  std::memcpy(&v, p, sizeof v);
+  return v;
+}
+template <class T>
+inline void storeSample(T* p, T v) {
+  std::memcpy(p, &v, sizeof v);
+}
 
 // Row i of an image: steps are bytes and may be zero or negative.
 template <class T>

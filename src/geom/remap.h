@@ -44,7 +44,7 @@ PxlStatus remap(const T* const* src, PxlSize srcSize, int srcStep, PxlRect srcRo
     const float* mx = byteOffset(xMap, std::ptrdiff_t(xMapStep) * j);
     const float* my = byteOffset(yMap, std::ptrdiff_t(yMapStep) * j);
     for (int i = 0; i < dstRoiSize.width; ++i) {
-      const float x = ld(mx + i), y = ld(my + i);
+      const float x = loadSample(mx + i), y = loadSample(my + i);
       const bool linear16 = std::is_same_v<T, Pxl16u> && mode == kLinear;
       if (linear16 ? (bitsOf(x) < bitsOf(fx0) || bitsOf(y) < bitsOf(fy0) || bitsOf(x) > bitsOf(fx1) ||
                       bitsOf(y) > bitsOf(fy1))
@@ -55,7 +55,7 @@ PxlStatus remap(const T* const* src, PxlSize srcSize, int srcStep, PxlRect srcRo
         T* d = byteOffset(dst[p], std::ptrdiff_t(dstStep) * j) + std::ptrdiff_t(i) * Px;
         if (mode == kNearest) {
           const int ix = int(std::nearbyint(x)), iy = int(std::nearbyint(y));
-          for (int c = 0; c < kSamples; ++c) st(d + c, s.at(ix, iy, c));
+          for (int c = 0; c < kSamples; ++c) storeSample(d + c, s.at(ix, iy, c));
         } else if (mode == kLinear && linear16) {
           int ix = int(double(x) + 1e-07), iy = int(double(y) + 1e-07);
           double fx = double(x) - ix, fy = double(y) - iy;
@@ -65,7 +65,7 @@ PxlStatus remap(const T* const* src, PxlSize srcSize, int srcStep, PxlRect srcRo
             const double s00 = s.at(ix, iy, c), s01 = s.at(ix + 1, iy, c);
             const double s10 = s.at(ix, iy + 1, c), s11 = s.at(ix + 1, iy + 1, c);
             const double top = s00 + (s01 - s00) * fx, bottom = s10 + (s11 - s10) * fx;
-            st(d + c, T(std::trunc((bottom - top) * fy + top)));
+            storeSample(d + c, T(std::trunc((bottom - top) * fy + top)));
           }
         } else if (mode == kLinear) {
           int ix = int(x), iy = int(y);
@@ -75,13 +75,13 @@ PxlStatus remap(const T* const* src, PxlSize srcSize, int srcStep, PxlRect srcRo
           if (iy == y1 && iy > 0) --iy;
           const float fx = x - float(ix), fy = y - float(iy);
           for (int c = 0; c < kSamples; ++c) {
-            if constexpr (std::is_same_v<T, Pxl8u>) st(d + c, linear8u<33>(s, ix, iy, fx, fy, c));
-            else st(d + c, T(linearFloat(s, ix, iy, fx, fy, c)));
+            if constexpr (std::is_same_v<T, Pxl8u>) storeSample(d + c, linear8u<33>(s, ix, iy, fx, fy, c));
+            else storeSample(d + c, T(linearFloat(s, ix, iy, fx, fy, c)));
           }
         } else {
           float tx, ty;
           const int bx = cubicBase(x, maxX, tx), by = cubicBase(y, maxY, ty);
-          for (int c = 0; c < kSamples; ++c) st(d + c, cubicSample<T>(s, bx, by, tx, ty, c));
+          for (int c = 0; c < kSamples; ++c) storeSample(d + c, cubicSample<T>(s, bx, by, tx, ty, c));
         }
       }
     }

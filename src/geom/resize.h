@@ -17,16 +17,10 @@
 
 #include "pxldefs.h"
 #include "pxls.h"
+#include "frame/types.h"
 #include "simd/vec.h"
 
 namespace pxl::geom {
-
-// Samples are read and written through memcpy, so that rows whose start is
-// not on the sample's natural boundary stay defined.
-template <class T>
-inline T ld(const T* p) { return simd::load<T>(p); }
-template <class T>
-inline void st(T* p, T v) { simd::store(p, v); }
 
 template <class T>
 inline const T* byteOffset(const T* p, std::ptrdiff_t bytes) {
@@ -175,7 +169,7 @@ struct ResizeRun {
 
   const T* srow(int r) const { return byteOffset(src, std::ptrdiff_t(srcStep) * r); }
   // Source sample of pixel x (relative to the ROI), sample c.
-  static T at(const T* s, int x, int c) { return ld(s + std::ptrdiff_t(x) * Px + c); }
+  static T at(const T* s, int x, int c) { return loadSample(s + std::ptrdiff_t(x) * Px + c); }
 
   template <class B>
   B* slot(int r, int taps, bool& fresh) {
@@ -237,7 +231,7 @@ struct ResizeRun {
       const T* s = srow(p.row.index[j]);
       T* d = drow(j);
       for (int k = 0; k < p.w; ++k)
-        for (int c = 0; c < Nc; ++c) st(d + std::ptrdiff_t(k) * Px + c, at(s, p.col.index[k], c));
+        for (int c = 0; c < Nc; ++c) storeSample(d + std::ptrdiff_t(k) * Px + c, at(s, p.col.index[k], c));
     }
   }
 
@@ -261,7 +255,7 @@ struct ResizeRun {
             const float t = p.row.frac[j];
             v = b0[k * Nc + c] * (1.0f - t) + b1[k * Nc + c] * t;
           }
-          st(d + std::ptrdiff_t(k) * Px + c, v);
+          storeSample(d + std::ptrdiff_t(k) * Px + c, v);
         }
     }
   }
@@ -280,7 +274,7 @@ struct ResizeRun {
       }
       T* d = drow(j);
       for (int k = 0; k < p.w; ++k)
-        for (int c = 0; c < Nc; ++c) st(d + std::ptrdiff_t(k) * Px + c, down(b, j, k * Nc + c));
+        for (int c = 0; c < Nc; ++c) storeSample(d + std::ptrdiff_t(k) * Px + c, down(b, j, k * Nc + c));
     }
   }
 
@@ -393,7 +387,7 @@ inline void areaRun(const T* src, int srcStep, T* dst, int dstStep, int w, int h
         for (int c = 0; c < Nc; ++c) {
           double v = 0.0;
           for (int e = 0; e < cx.count[k]; ++e)
-            v += cx.wt[cx.off[k] + e] * double(ld(s + std::ptrdiff_t(cx.first[k] + e) * Px + c));
+            v += cx.wt[cx.off[k] + e] * double(loadSample(s + std::ptrdiff_t(cx.first[k] + e) * Px + c));
           acc[k * Nc + c] += wy * v;
         }
     }
@@ -405,7 +399,7 @@ inline void areaRun(const T* src, int srcStep, T* dst, int dstStep, int w, int h
         T o;
         if constexpr (std::is_same_v<T, Pxl32f>) o = static_cast<float>(v);
         else o = saturateFromFloat<T>(static_cast<float>(std::floor(v + 0.5)));
-        st(d + std::ptrdiff_t(k) * Px + c, o);
+        storeSample(d + std::ptrdiff_t(k) * Px + c, o);
       }
   }
 }

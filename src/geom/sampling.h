@@ -17,7 +17,7 @@ struct Src {
   const T* base;
   int step;  // bytes
   T at(int x, int y, int c) const {
-    return ld(byteOffset(base, std::ptrdiff_t(step) * y) + std::ptrdiff_t(x) * Px + c);
+    return loadSample(byteOffset(base, std::ptrdiff_t(step) * y) + std::ptrdiff_t(x) * Px + c);
   }
 };
 

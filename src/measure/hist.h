@@ -145,7 +145,7 @@ PxlStatus countHistogram(const T* src, int step, PxlSize roi, Pxl32s* const* his
         // not wait on each other's increment; added at the end.
         Pxl32s quad[4][256] = {};
         for (int y = 0; y < roi.height; ++y) {
-          const Pxl8u* p = rowOf(src, step, y);
+          const Pxl8u* p = rowAt(src, step, y);
           int x = 0;
           for (; x + 4 <= roi.width; x += 4) {
             ++quad[0][p[x]];
@@ -158,9 +158,9 @@ PxlStatus countHistogram(const T* src, int step, PxlSize roi, Pxl32s* const* his
         for (int v = 0; v < 256; ++v) table[v] = quad[0][v] + quad[1][v] + quad[2][v] + quad[3][v];
       } else {
         for (int y = 0; y < roi.height; ++y) {
-          const T* p = rowOf(src, step, y);
+          const T* p = rowAt(src, step, y);
           for (int x = 0; x < roi.width; ++x)
-            for (int c = 0; c < P; ++c) ++table[c * kSize + int(ld(p + x * C + c)) - kLo];
+            for (int c = 0; c < P; ++c) ++table[c * kSize + int(loadSample(p + x * C + c)) - kLo];
         }
       }
       for (int c = 0; c < P; ++c) recalc(table + c * kSize, kLo, kLo + kSize, levels[c], nLevels[c], hist[c]);
@@ -169,10 +169,10 @@ PxlStatus countHistogram(const T* src, int step, PxlSize roi, Pxl32s* const* his
     return pxlStsOk;
   }
   for (int y = 0; y < roi.height; ++y) {
-    const T* p = rowOf(src, step, y);
+    const T* p = rowAt(src, step, y);
     for (int x = roi.width - 1; x >= 0; --x)
       for (int c = 0; c < P; ++c) {
-        const T v = ld(p + x * C + c);
+        const T v = loadSample(p + x * C + c);
         if (s == Strategy::Brute)
           countBrute(v, levels[c], nLevels[c], hist[c]);
         else if (s == Strategy::Forward)
@@ -254,10 +254,10 @@ PxlStatus histogramEvenCount(const T* src, int step, PxlSize roi, Pxl32s* const*
   }
   for (int c = 0; c < P; ++c) std::memset(hist[c], 0, sizeof(Pxl32s) * (nLevels[c] - 1));
   for (int y = 0; y < roi.height; ++y) {
-    const T* p = rowOf(src, step, y);
+    const T* p = rowAt(src, step, y);
     for (int x = 0; x < roi.width; ++x)
       for (int c = 0; c < P; ++c) {
-        const int v = ld(p + x * C + c);
+        const int v = loadSample(p + x * C + c);
         if (lower[c] <= v && v < upper[c]) {
           const float q = float((upper[c] - lower[c]) / (nLevels[c] - 1));
           ++hist[c][int(float(v - lower[c]) / q)];

@@ -89,11 +89,11 @@ void normTotals(const T* a, int sa, const T* b, int sb, PxlSize roi, int hint, T
   constexpr int C = channelsOf(L), P = processedOf(L);
   t.accurate = hint == kAccurate;
   for (int y = 0; y < roi.height; ++y) {
-    const T* p = rowOf(a, sa, y);
-    const T* q = b ? rowOf(b, sb, y) : nullptr;
+    const T* p = rowAt(a, sa, y);
+    const T* q = b ? rowAt(b, sb, y) : nullptr;
     for (int x = 0; x < roi.width; ++x)
       for (int c = 0; c < P; ++c)
-        t.add(q ? absDiff(ld(p + x * C + c), ld(q + x * C + c)) : absOf(ld(p + x * C + c)), c, x);
+        t.add(q ? absDiff(loadSample(p + x * C + c), loadSample(q + x * C + c)) : absOf(loadSample(p + x * C + c)), c, x);
   }
 }
 

@@ -16,21 +16,6 @@
 
 namespace pxl::measure {
 
-template <class T>
-inline T ld(const T* p) {
-  T v;
-  std::memcpy(&v, p, sizeof v);
-  return v;
-}
-
-template <class T>
-inline const T* rowOf(const T* base, int step, int y) {
-  return reinterpret_cast<const T*>(reinterpret_cast<const char*>(base) + std::ptrdiff_t(step) * y);
-}
-template <class T>
-inline T* rowOf(T* base, int step, int y) {
-  return reinterpret_cast<T*>(reinterpret_cast<char*>(base) + std::ptrdiff_t(step) * y);
-}
 
 using Ext = long double;  // the extended precision of the accurate routes
 constexpr int kAccurate = 2;
@@ -48,7 +33,7 @@ void sum8u(const Pxl8u* src, int step, PxlSize roi, Pxl64f* out) {
   std::uint32_t acc[4] = {};
   double r[4] = {};
   for (int y = 0; y < roi.height; ++y) {
-    const Pxl8u* p = rowOf(src, step, y);
+    const Pxl8u* p = rowAt(src, step, y);
     std::uint32_t t[4] = {};
     if constexpr (C == 1) {
       std::uint32_t s = 0;
@@ -75,12 +60,12 @@ void sum16s(const Pxl16s* src, int step, PxlSize roi, Pxl64f* out) {
   constexpr int C = channelsOf(L), P = processedOf(L);
   std::int64_t acc[4] = {};
   for (int y = 0; y < roi.height; ++y) {
-    const Pxl16s* p = rowOf(src, step, y);
+    const Pxl16s* p = rowAt(src, step, y);
     for (int x0 = 0; x0 < roi.width; x0 += 32768 / C) {
       const int x1 = std::min(roi.width, x0 + 32768 / C);
       std::int32_t t[4] = {};
       for (int x = x0; x < x1; ++x)
-        for (int c = 0; c < P; ++c) t[c] += ld(p + x * C + c);
+        for (int c = 0; c < P; ++c) t[c] += loadSample(p + x * C + c);
       for (int c = 0; c < P; ++c) acc[c] += t[c];
     }
   }
@@ -95,12 +80,12 @@ void sum16u(const Pxl16u* src, int step, PxlSize roi, Pxl64f* out) {
   constexpr int C = channelsOf(L), P = processedOf(L);
   double r[4] = {};
   for (int y = 0; y < roi.height; ++y) {
-    const Pxl16u* p = rowOf(src, step, y);
+    const Pxl16u* p = rowAt(src, step, y);
     for (int x0 = 0; x0 < roi.width; x0 += 65536) {
       const int x1 = std::min(roi.width, x0 + 65536);
       std::uint32_t t[4] = {};
       for (int x = x0; x < x1; ++x)
-        for (int c = 0; c < P; ++c) t[c] += ld(p + x * C + c);
+        for (int c = 0; c < P; ++c) t[c] += loadSample(p + x * C + c);
       for (int c = 0; c < P; ++c) r[c] += double(std::int32_t(t[c]));
     }
   }
@@ -114,17 +99,17 @@ void sum32fAccurate(const Pxl32f* src, int step, PxlSize roi, Ext* out) {
   constexpr int C = channelsOf(L), P = processedOf(L);
   Ext acc[4] = {}, odd = 0;
   for (int y = 0; y < roi.height; ++y) {
-    const Pxl32f* p = rowOf(src, step, y);
+    const Pxl32f* p = rowAt(src, step, y);
     if constexpr (C == 1) {
       int x = 0;
       for (; x + 1 < roi.width; x += 2) {
-        acc[0] += Ext(ld(p + x));
-        odd += Ext(ld(p + x + 1));
+        acc[0] += Ext(loadSample(p + x));
+        odd += Ext(loadSample(p + x + 1));
       }
-      if (x < roi.width) acc[0] += Ext(ld(p + x));
+      if (x < roi.width) acc[0] += Ext(loadSample(p + x));
     } else {
       for (int x = 0; x < roi.width; ++x)
-        for (int c = 0; c < P; ++c) acc[c] += Ext(ld(p + x * C + c));
+        for (int c = 0; c < P; ++c) acc[c] += Ext(loadSample(p + x * C + c));
     }
   }
   if constexpr (C == 1) acc[0] += odd;
@@ -142,22 +127,22 @@ void sum32fFast(const Pxl32f* src, int step, PxlSize roi, Ext* out) {
   constexpr int kLanes = C == 1 ? 16 : 4 * C;
   Ext acc[4] = {};
   for (int y = 0; y < roi.height; ++y) {
-    const Pxl32f* p = rowOf(src, step, y);
+    const Pxl32f* p = rowAt(src, step, y);
     const int n = roi.width * C;
     int i = 0;
     float head[4] = {};
     if constexpr (C == 1) {
       const int mis = int((reinterpret_cast<std::uintptr_t>(p) / sizeof(float)) & 3);
       const int h = std::min(n, mis ? 4 - mis : 0);
-      for (; i < h; ++i) head[0] += ld(p + i);
+      for (; i < h; ++i) head[0] += loadSample(p + i);
     }
     float lanes[kLanes] = {};
     for (; i + kLanes <= n; i += kLanes)
-      for (int j = 0; j < kLanes; ++j) lanes[j] += ld(p + i + j);
+      for (int j = 0; j < kLanes; ++j) lanes[j] += loadSample(p + i + j);
     float row[4] = {};
     for (int j = 0; j < kLanes; ++j) row[j % C] += lanes[j];
     for (int c = 0; c < P; ++c) row[c] = head[c] + row[c];
-    for (; i < n; ++i) row[i % C] += ld(p + i);
+    for (; i < n; ++i) row[i % C] += loadSample(p + i);
     for (int c = 0; c < P; ++c) acc[c] += Ext(row[c]);
   }
   for (int c = 0; c < P; ++c) out[c] = acc[c];
@@ -235,11 +220,11 @@ inline void rowExtreme(const T* p, int width, T* acc) {
   using E = Extreme<T, Max>;
   if constexpr (C == 1) {
     T a = acc[0];
-    for (int x = 0; x < width; ++x) a = E::pick(a, ld(p + x));
+    for (int x = 0; x < width; ++x) a = E::pick(a, loadSample(p + x));
     acc[0] = a;
   } else {
     for (int x = 0; x < width; ++x)
-      for (int c = 0; c < P; ++c) acc[c] = E::pick(acc[c], ld(p + x * C + c));
+      for (int c = 0; c < P; ++c) acc[c] = E::pick(acc[c], loadSample(p + x * C + c));
   }
 }
 
@@ -249,7 +234,7 @@ template <class T, Lay L, bool Max>
 void extremeOf(const T* src, int step, PxlSize roi, T* out) {
   T acc[4];
   for (auto& a : acc) a = Extreme<T, Max>::start();
-  for (int y = 0; y < roi.height; ++y) rowExtreme<T, L, Max>(rowOf(src, step, y), roi.width, acc);
+  for (int y = 0; y < roi.height; ++y) rowExtreme<T, L, Max>(rowAt(src, step, y), roi.width, acc);
   for (int c = 0; c < processedOf(L); ++c) out[c] = acc[c];
 }
 
@@ -290,9 +275,9 @@ PxlStatus extremeIndex(const T* src, int step, PxlSize roi, T* value, Pxl32s* ix
   constexpr T kLimit = Max ? std::numeric_limits<T>::max() : std::numeric_limits<T>::lowest();
   T best[4];
   Pxl32s bx[4] = {}, by[4] = {};
-  for (int c = 0; c < P; ++c) best[c] = C == 1 ? E::start() : ld(src + c);
+  for (int c = 0; c < P; ++c) best[c] = C == 1 ? E::start() : loadSample(src + c);
   for (int y = 0; y < roi.height; ++y) {
-    const T* p = rowOf(src, step, y);
+    const T* p = rowAt(src, step, y);
     T row[4];
     for (auto& a : row) a = E::start();
     rowExtreme<T, L, Max>(p, roi.width, row);
@@ -306,7 +291,7 @@ PxlStatus extremeIndex(const T* src, int step, PxlSize roi, T* value, Pxl32s* ix
       best[c] = row[c];
       by[c] = y;
       for (int x = 0; x < roi.width; ++x)
-        if (ld(p + x * C + c) == row[c]) {
+        if (loadSample(p + x * C + c) == row[c]) {
           bx[c] = x;
           break;
         }
@@ -340,7 +325,7 @@ PxlStatus countInRange(const T* src, int step, PxlSize roi, Pxl32s* counts, cons
     if (lower[c] > upper[c]) return pxlStsRangeOrder;
   std::uint32_t total[4] = {};
   for (int y = 0; y < roi.height; ++y) {
-    const T* p = rowOf(src, step, y);
+    const T* p = rowAt(src, step, y);
     if constexpr (std::is_same_v<T, Pxl8u>) {
       std::uint16_t lane[4] = {};
       const Pxl8u lo = lower[0], hi = upper[0];
@@ -366,7 +351,7 @@ PxlStatus countInRange(const T* src, int step, PxlSize roi, Pxl32s* counts, cons
     } else {
       for (int x = 0; x < roi.width; ++x)
         for (int c = 0; c < P; ++c) {
-          const T v = ld(p + x * C + c);
+          const T v = loadSample(p + x * C + c);
           total[c] += (!(v < lower[c]) && v <= upper[c]);
         }
     }

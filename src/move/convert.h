@@ -95,18 +95,6 @@ struct ConvertRule {
   }
 };
 
-// One sample through memcpy: a caller's row may start at any byte, also
-// one that is not a multiple of the sample size, as the vector blocks allow.
-template <class T>
-inline T sampleAt(const T* p) {
-  T v;
-  std::memcpy(&v, p, sizeof v);
-  return v;
-}
-template <class T>
-inline void putSample(T* p, T v) {
-  std::memcpy(p, &v, sizeof v);
-}
 
 // Lanes per vector block of a pair: one register of the narrower type, so
 // that a byte side always moves whole registers.
@@ -135,7 +123,7 @@ void convertRow(const S* src, D* dst, int len, const Rule& rule) {
     using SV = simd::Vec<S, N>;
     for (; i + N <= len; i += N) simd::store(dst + i, rule(simd::load<SV>(src + i)));
   }
-  for (; i < len; ++i) putSample(dst + i, rule(sampleAt(src + i)));
+  for (; i < len; ++i) storeSample(dst + i, rule(loadSample(src + i)));
 }
 
 // AC4: the three colour samples of each pixel; the fourth is neither read
@@ -143,7 +131,7 @@ void convertRow(const S* src, D* dst, int len, const Rule& rule) {
 template <class S, class D, class Rule>
 void convertRowAC4(const S* src, D* dst, int width, const Rule& rule) {
   for (int x = 0; x < width; ++x, src += 4, dst += 4)
-    for (int c = 0; c < 3; ++c) putSample(dst + c, rule(sampleAt(src + c)));
+    for (int c = 0; c < 3; ++c) storeSample(dst + c, rule(loadSample(src + c)));
 }
 
 // Walks the ROI row by row, or as one row when the image is contiguous: both

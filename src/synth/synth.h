@@ -14,8 +14,6 @@
 
 namespace pxl::synth {
 
-using measure::ld;
-using measure::rowOf;
 
 struct Rand {
   static constexpr std::uint32_t kM = 69069, kA = 0x3C6EF373u;
@@ -95,10 +93,10 @@ PxlStatus addRand(T* img, int step, PxlSize roi, Pxl32u* seed, Src src) {
   constexpr int C = channelsOf(L), P = processedOf(L);
   Rand g(*seed);
   for (int y = 0; y < roi.height; ++y) {
-    T* p = rowOf(img, step, y);
+    T* p = rowAt(img, step, y);
     for (int x = 0; x < roi.width; ++x)
       for (int c = 0; c < P; ++c) {
-        T v = ld(p + x * C + c);
+        T v = loadSample(p + x * C + c);
         v = addNoise(v, src(g));
         std::memcpy(p + x * C + c, &v, sizeof v);
       }
@@ -137,7 +135,7 @@ PxlStatus imageRamp(T* dst, int step, PxlSize roi, Pxl32f offset, Pxl32f slope, 
   if (badSize(roi)) return pxlStsSize;
   constexpr int C = channelsOf(L), P = processedOf(L);
   for (int y = 0; y < roi.height; ++y) {
-    T* p = rowOf(dst, step, y);
+    T* p = rowAt(dst, step, y);
     const T rowValue = rampValue<T>(offset + slope * float(y));
     for (int x = 0; x < roi.width; ++x) {
       const T v = axis == 1 ? rowValue
