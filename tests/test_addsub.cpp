@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "harness/differential.h"
+#include "harness/int128.h"
 
 namespace {
 
@@ -16,7 +17,6 @@ using pxltest::diff::TypeInfo;
 // differences clamped at zero, then divide by 2^s rounding half to even, or
 // multiply by 2^-s, then saturate.
 long long refScale(long long x, int s, const TypeInfo& t, bool sub) {
-  using i128 = __int128;
   if (sub && t.lo == 0 && x < 0) x = 0;
   i128 v;
   if (s == 0) {

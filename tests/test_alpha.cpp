@@ -20,20 +20,20 @@ using pxltest::TestImage;
 template <class T>
 constexpr int kBits = sizeof(T) * 8;
 template <class T>
-constexpr long kFull = (1L << kBits<T>) - 1;
+constexpr long long kFull = (1LL << kBits<T>) - 1;
 
 template <class T>
-long mul(long a, long b) {
-  const long t = a * b;
+long long mul(long long a, long long b) {
+  const long long t = a * b;
   return (t + 1 + (t >> kBits<T>)) >> kBits<T>;
 }
 
 // The colour result of operator op (0..5) as the table states it, for
 // colours that are (pre) or are not premultiplied.
 template <class T>
-long colour(int op, bool pre, long c1, long a1, long c2, long a2) {
-  const long n1 = kFull<T> - a1, n2 = kFull<T> - a2;
-  long r = 0;
+long long colour(int op, bool pre, long long c1, long long a1, long long c2, long long a2) {
+  const long long n1 = kFull<T> - a1, n2 = kFull<T> - a2;
+  long long r = 0;
   if (!pre) {
     switch (op) {
       case 0: r = mul<T>(c1, a1) + mul<T>(n1, mul<T>(c2, a2)); break;
@@ -58,9 +58,9 @@ long colour(int op, bool pre, long c1, long a1, long c2, long a2) {
 
 // The alpha column of the table (an image of alphas alone).
 template <class T>
-long alphaResult(int op, long a1, long a2) {
-  const long n1 = kFull<T> - a1, n2 = kFull<T> - a2;
-  long r;
+long long alphaResult(int op, long long a1, long long a2) {
+  const long long n1 = kFull<T> - a1, n2 = kFull<T> - a2;
+  long long r;
   switch (op) {
     case 0: r = a1 + mul<T>(n1, a2); break;
     case 1: r = mul<T>(a1, a2); break;
@@ -75,7 +75,7 @@ long alphaResult(int op, long a1, long a2) {
 // In AC4 and AP4 the alpha samples go through the colour arithmetic as
 // premultiplied values equal to the alpha itself.
 template <class T>
-long alphaLane(int op, long a1, long a2) {
+long long alphaLane(int op, long long a1, long long a2) {
   return colour<T>(op, true, a1, a1, a2, a2);
 }
 
@@ -208,7 +208,7 @@ TYPED_TEST(AlphaTest, PlanarAndConstantForms) {
       ASSERT_EQ(pxlStsOk, Fns<T>::compP(c1, step, c2, step, pd.data(), step, {w, h}, op));
       for (int y = 0; y < h; ++y)
         for (int x = 0; x < w; ++x) {
-          const long a1 = s1.at<T>(3, y)[x], a2 = s2.at<T>(3, y)[x];
+          const long long a1 = s1.at<T>(3, y)[x], a2 = s2.at<T>(3, y)[x];
           for (int k = 0; k < 3; ++k)
             ASSERT_EQ(d.at<T>(k, y)[x], colour<T>(o, pre, s1.at<T>(k, y)[x], a1, s2.at<T>(k, y)[x], a2)) << op;
           ASSERT_EQ(d.at<T>(3, y)[x], alphaLane<T>(o, a1, a2)) << op;
@@ -279,7 +279,7 @@ TYPED_TEST(AlphaTest, PremultiplyByPixelAlphaOrConstant) {
     for (int y = 0; y < h; ++y)
       for (int i = 0; i < 3 * w; ++i) ASSERT_EQ(px<T>(*c3d, y)[i], mul<T>(px<T>(*c3, y)[i], k));
     auto a4 = img<T>(w, h, 4, rng, Place::Back);
-    std::vector<long> want;
+    std::vector<long long> want;
     for (int y = 0; y < h; ++y)
       for (int i = 0; i < 4 * w; ++i) want.push_back(mul<T>(px<T>(*a4, y)[i], k));
     ASSERT_EQ(pxlStsOk, Fns<T>::preC4I(k, px<T>(*a4, 0), a4->step(), {w, h}));
@@ -345,7 +345,7 @@ TEST(Alpha, LargeDestinationsAtEveryOffset) {
                                               : colour<T>(0, true, px<T>(*s1, y)[i], 180, px<T>(*s2, y)[i], 90))
             << left << " " << i << " " << y;
     // In place: each block is read before it is written.
-    std::vector<long> want;
+    std::vector<long long> want;
     for (int y = 0; y < h; ++y)
       for (int i = 0; i < 4 * w; ++i) want.push_back(mul<T>(px<T>(*d, y)[i], px<T>(*d, y)[i | 3]));
     for (std::size_t k = 3; k < want.size(); k += 4) want[k] = px<T>(*d, int(k / (4 * w)))[k % (4 * w)];
@@ -365,7 +365,7 @@ TEST(Alpha, LargeDestinationsAtEveryOffset) {
   ASSERT_EQ(pxlStsOk, pxliAlphaComp_8u_AP4R(c1, step, c2, step, pd.ptrs<T>().data(), step, {w, h}, pxlAlphaATop));
   for (int y = 0; y < h; ++y)
     for (int x = 0; x < w; ++x) {
-      const long a1 = p1.at<T>(3, y)[x], a2 = p2.at<T>(3, y)[x];
+      const long long a1 = p1.at<T>(3, y)[x], a2 = p2.at<T>(3, y)[x];
       for (int k = 0; k < 3; ++k)
         ASSERT_EQ(pd.at<T>(k, y)[x], colour<T>(3, false, p1.at<T>(k, y)[x], a1, p2.at<T>(k, y)[x], a2)) << x;
       ASSERT_EQ(pd.at<T>(3, y)[x], alphaLane<T>(3, a1, a2)) << x;

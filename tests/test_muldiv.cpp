@@ -9,13 +9,13 @@
 #include <cstring>
 
 #include "harness/differential.h"
+#include "harness/int128.h"
 
 namespace {
 
 using pxltest::diff::Member;
 using pxltest::diff::Num;
 using pxltest::diff::TypeInfo;
-using i128 = __int128;
 
 enum class Kind { Mul, Div, MulScale };
 

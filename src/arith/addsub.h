@@ -54,7 +54,11 @@ struct OpAdd : AddSubBase<OpAdd> {
   static constexpr Fam kFamC = Fam::AddC;
   template <class W>
   static W exact(W a, W b) {
-    return a + b;
+    if constexpr (std::is_floating_point_v<Elem<W>>) {
+      return simd::firstNaN(a, a + b);
+    } else {
+      return a + b;
+    }
   }
   template <class V>
   static V saturating(V a, V b) {

@@ -126,13 +126,14 @@ template <class T>
 inline std::enable_if_t<kComplex<T> && std::is_floating_point_v<PartOf<T>>, T> divSample(T n, T d, int, bool& zero) {
   using R = PartOf<T>;
   const double dr = d.re, di = d.im, nr = n.re, ni = n.im;
-  const double t = roundedProduct(dr, dr) + roundedProduct(di, di);
+  const double t = roundedProduct(dr, dr) + roundedProduct(di, di);  // a NaN fails the test below
   if (!(t > 0)) {
     zero = true;
     return T{R(pxlConstantOfNAN_64f), R(pxlConstantOfNAN_64f)};
   }
   const double inv = 1.0 / t;
-  return T{R((roundedProduct(nr, dr) + roundedProduct(ni, di)) * inv),
+  const double re = roundedProduct(nr, dr);
+  return T{R(simd::firstNaN(re, re + roundedProduct(ni, di)) * inv),
            R((roundedProduct(ni, dr) - roundedProduct(nr, di)) * inv)};
 }
 
@@ -162,7 +163,9 @@ inline V refinedQuotient(V n, V d) {
   const V r = rcpLane(d);
   const V q = n * r;
   const V e = splat<V>(1.0f) - d * r;
-  return q + (e * q + q) * e;
+  // A NaN numerator wins over a NaN divisor, whatever order the products
+  // and sums were given.
+  return simd::firstNaN(n, q + (e * q + q) * e);
 }
 
 inline float divSingle(float n, float d, bool& zero) {

@@ -62,7 +62,11 @@ struct OpMul {
 
   template <class W>
   static W exact(W a, W b) {
-    return a * b;
+    if constexpr (std::is_floating_point_v<Elem<W>>) {
+      return simd::firstNaN(a, a * b);
+    } else {
+      return a * b;
+    }
   }
 
   // 8u products on whole registers of 16-bit lanes: 255 * 255 = 65025 fits,
@@ -136,7 +140,8 @@ struct OpMul {
     using W = typename ComplexLane<T>::type;
     if constexpr (std::is_floating_point_v<R>) {
       const R re = roundedProduct(a.re, b.re) - roundedProduct(a.im, b.im);
-      const R im = roundedProduct(a.re, b.im) + roundedProduct(a.im, b.re);
+      const R p = roundedProduct(a.re, b.im);
+      const R im = simd::firstNaN(p, p + roundedProduct(a.im, b.re));
       return T{re, im};
     }
     const W re = W(a.re) * W(b.re) - W(a.im) * W(b.im);

@@ -114,7 +114,7 @@ inline W scaleRule(W x, int s) {
 // on AVX2; an opaque register stops it, so every level rounds each product.
 template <class F>
 inline F roundedProduct(F a, F b) {
-  F p = a * b;
+  F p = simd::firstNaN(a, a * b);
   __asm__("" : "+x"(p));
   return p;
 }

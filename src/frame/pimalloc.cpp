@@ -3,11 +3,12 @@
 //
 // Sizes are computed in 32-bit unsigned arithmetic without overflow checks,
 // exactly as the interface defines them: a length so large that the product
-// wraps yields a smaller block. The raw block is 40 bytes larger than the
-// data, not 36 as on a 32-bit build: a 64-bit pointer needs 8 bytes below the
-// returned address instead of 4, plus 31 for the rounding up to 32. So the
-// bytes below the returned address differ from a 32-bit build; alignment,
-// null for a length below 1, steps and the size arithmetic do not.
+// wraps yields a smaller block. The raw block is the data plus the stored
+// pointer plus 32 bytes for the rounding (36 on a 32-bit build, 40 on a
+// 64-bit one, where the pointer below the returned address takes 8 bytes);
+// the returned address is the raw one plus the pointer plus 31, rounded down
+// to 32. Alignment, null for a length below 1, steps and the size arithmetic
+// are the same on both.
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -19,14 +20,14 @@ namespace {
 
 constexpr std::uint32_t kAlign = 32;
 constexpr std::uint32_t kStored = sizeof(void*);
-constexpr std::uint32_t kOverhead = kStored + kAlign - 1;
+constexpr std::uint32_t kOverhead = kStored + kAlign;
 
 void* alignedAlloc(int length, std::uint32_t elemSize) {
   if (length < 1) return nullptr;
   const std::uint32_t bytes = static_cast<std::uint32_t>(length) * elemSize + kOverhead;
   void* raw = std::malloc(bytes);
   if (raw == nullptr) return nullptr;
-  const std::uintptr_t at = (reinterpret_cast<std::uintptr_t>(raw) + kOverhead) & ~std::uintptr_t(kAlign - 1);
+  const std::uintptr_t at = (reinterpret_cast<std::uintptr_t>(raw) + kOverhead - 1) & ~std::uintptr_t(kAlign - 1);
   std::memcpy(reinterpret_cast<void*>(at - kStored), &raw, kStored);
   return reinterpret_cast<void*>(at);
 }

@@ -39,7 +39,71 @@ inline constexpr int kLanes = kBytes / int(sizeof(T));
 
 // A 128-bit integer is a scalar lane too: the exact sums of 32-bit complex
 // products need it (scalar code only, never a vector).
+// A 32-bit target has no 128-bit integer type: there it is two's complement
+// in two 64-bit halves, with the operations the scale rule applies to a
+// lane. It is compiled everywhere, so that the 64-bit tests compare it with
+// the compiler's own type.
+struct Int128Pair {
+  std::uint64_t lo;
+  std::int64_t hi;
+
+  Int128Pair() = default;
+  template <class I, class = std::enable_if_t<std::is_integral_v<I>>>
+  constexpr Int128Pair(I v) : lo(std::uint64_t(std::int64_t(v))), hi(std::int64_t(v) < 0 ? -1 : 0) {
+    static_assert(sizeof(I) < 8 || std::is_signed_v<I>, "64-bit unsigned values do not widen here");
+  }
+  constexpr Int128Pair(std::uint64_t l, std::int64_t h) : lo(l), hi(h) {}
+  // The low bits: the callers saturate first, so the value fits.
+  template <class I, class = std::enable_if_t<std::is_integral_v<I>>>
+  explicit constexpr operator I() const {
+    return static_cast<I>(lo);
+  }
+
+  friend constexpr Int128Pair operator+(Int128Pair a, Int128Pair b) {
+    const std::uint64_t l = a.lo + b.lo;
+    return {l, std::int64_t(std::uint64_t(a.hi) + std::uint64_t(b.hi) + (l < a.lo))};
+  }
+  friend constexpr Int128Pair operator-(Int128Pair a, Int128Pair b) {
+    return {a.lo - b.lo, std::int64_t(std::uint64_t(a.hi) - std::uint64_t(b.hi) - (a.lo < b.lo))};
+  }
+  friend constexpr Int128Pair operator*(Int128Pair a, Int128Pair b) {
+    // The low 128 bits of the product: lo x lo in full from 32-bit limbs,
+    // the cross terms only in the high half.
+    const std::uint64_t a0 = a.lo & 0xffffffffu, a1 = a.lo >> 32, b0 = b.lo & 0xffffffffu, b1 = b.lo >> 32;
+    const std::uint64_t p00 = a0 * b0, p01 = a0 * b1, p10 = a1 * b0, p11 = a1 * b1;
+    const std::uint64_t mid = (p00 >> 32) + (p01 & 0xffffffffu) + (p10 & 0xffffffffu);
+    const std::uint64_t l = (mid << 32) | (p00 & 0xffffffffu);
+    const std::uint64_t h = p11 + (p01 >> 32) + (p10 >> 32) + (mid >> 32) + a.lo * std::uint64_t(b.hi) +
+                            std::uint64_t(a.hi) * b.lo;
+    return {l, std::int64_t(h)};
+  }
+  friend constexpr Int128Pair operator-(Int128Pair a) { return Int128Pair(0) - a; }
+  constexpr Int128Pair& operator++() { return *this = *this + Int128Pair(1); }
+  friend constexpr Int128Pair operator&(Int128Pair a, Int128Pair b) { return {a.lo & b.lo, a.hi & b.hi}; }
+  friend constexpr Int128Pair operator|(Int128Pair a, Int128Pair b) { return {a.lo | b.lo, a.hi | b.hi}; }
+  // Arithmetic shift right and logical shift left, 0 <= n < 128.
+  friend constexpr Int128Pair operator>>(Int128Pair a, int n) {
+    if (n == 0) return a;
+    if (n >= 64) return {std::uint64_t(a.hi >> (n - 64)), a.hi < 0 ? -1 : 0};
+    return {(a.lo >> n) | (std::uint64_t(a.hi) << (64 - n)), a.hi >> n};
+  }
+  friend constexpr Int128Pair operator<<(Int128Pair a, int n) {
+    if (n == 0) return a;
+    if (n >= 64) return {0, std::int64_t(a.lo << (n - 64))};
+    return {a.lo << n, std::int64_t((std::uint64_t(a.hi) << n) | (a.lo >> (64 - n)))};
+  }
+  friend constexpr bool operator==(Int128Pair a, Int128Pair b) { return a.lo == b.lo && a.hi == b.hi; }
+  friend constexpr bool operator!=(Int128Pair a, Int128Pair b) { return !(a == b); }
+  friend constexpr bool operator<(Int128Pair a, Int128Pair b) { return a.hi != b.hi ? a.hi < b.hi : a.lo < b.lo; }
+  friend constexpr bool operator>(Int128Pair a, Int128Pair b) { return b < a; }
+  friend constexpr bool operator<=(Int128Pair a, Int128Pair b) { return !(b < a); }
+  friend constexpr bool operator>=(Int128Pair a, Int128Pair b) { return !(a < b); }
+};
+#if defined(__SIZEOF_INT128__)
 __extension__ typedef __int128 Int128;
+#else
+using Int128 = Int128Pair;
+#endif
 template <class V>
 inline constexpr bool kIsScalar = std::is_arithmetic_v<V> || std::is_same_v<V, Int128>;
 
@@ -121,6 +185,21 @@ inline V select(decltype(std::declval<V>() < std::declval<V>()) m, V a, V b) {
   }
 }
 
+// The NaN of a commutative float operation. With two NaN operands the
+// processor returns the first one, and which operand is first is the
+// compiler's choice: it commutes + and * freely, differently in vector
+// blocks and scalar tails and at each instruction level. A rule that must
+// give the same bytes everywhere names it: where a is NaN the result is a,
+// quietened (a + a), whatever r, the operation's own result, holds.
+template <class V>
+inline V firstNaN(V a, V r) {
+  if constexpr (kIsVector<V>) {
+    return select<V>(a != a, a + a, r);
+  } else {
+    return a != a ? a + a : r;
+  }
+}
+
 // a < b ? a : b on one register. The float instructions compute exactly
 // that, also for a NaN in either operand (the second one is returned), but
 // the compiler does not find them from the expression without fast-math.
@@ -173,8 +252,12 @@ template <class V>
 inline V shiftLeft(V x, int n) {
   using E = Elem<V>;
   if constexpr (std::is_same_v<E, Int128>) {
+#if defined(__SIZEOF_INT128__)
     __extension__ typedef unsigned __int128 U128;
     return static_cast<V>(static_cast<U128>(x) << n);
+#else
+    return x << n;
+#endif
   } else if constexpr (kIsVector<V>) {
     using U = std::make_unsigned_t<E>;
     using UV = Vec<U, int(sizeof(V) / sizeof(E))>;
@@ -545,9 +628,7 @@ inline Rebind<std::int32_t, V> widenToInt32(const V& v) {
       std::memcpy(&w, &v, 4);
       x = _mm_cvtsi32_si128(w);
     } else if constexpr (sizeof v == 8) {
-      long long w;
-      std::memcpy(&w, &v, 8);
-      x = _mm_cvtsi64_si128(w);
+      x = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(&v));
     } else if constexpr (sizeof v == 16) {
       std::memcpy(&x, &v, sizeof x);
     }
