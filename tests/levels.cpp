@@ -112,10 +112,7 @@ PxlStatus callOn(const SweepEntry& e, const void* fn, Operands& o, PxlSize roi, 
 //   by sample while the baseline's groups of 4 do not;
 // - Set 32f at an address off its 4-byte boundary (the fill's wide-character
 //   path shifts the pattern by the misalignment);
-// - alpha composition and premultiplication of the planar AP4 forms;
-// - the 32f filters (fixed and caller's kernels) and the 32f Sum and Mean:
-//   float results that depend on the level, not yet diagnosed (NaN payloads
-//   or an order of additions that the compiler's vectorisation changes).
+// - alpha composition and premultiplication of the planar AP4 forms.
 bool knownOpen(const char* name) {
   const std::string n(name);
   for (const char* stem : {"Add", "Sub", "Mul", "Div"})
@@ -126,9 +123,6 @@ bool knownOpen(const char* name) {
       }
   for (const char* open : {"pxlsMulC_64fc", "pxlsSet_32f", "pxliSet_32f"})
     if (n.rfind(open, 0) == 0) return true;
-  if (n.find("_32f") != std::string::npos)
-    for (const char* open : {"pxliFilter", "pxliSum_", "pxliMean_"})
-      if (n.rfind(open, 0) == 0) return true;
   return n.find("_AP4R") != std::string::npos && n.rfind("pxliAlpha", 0) == 0;
 }
 

@@ -174,7 +174,7 @@ PxlStatus sum(const T* src, int step, PxlSize roi, Pxl64f* out, int hint = 0) {
   if (badSize(roi)) return pxlStsSize;
   Ext s[4];
   sumOf<T, L>(src, step, roi, s, hint);
-  for (int c = 0; c < processedOf(L); ++c) out[c] = double(s[c]);
+  for (int c = 0; c < processedOf(L); ++c) out[c] = oneNaN(double(s[c]));
   return pxlStsOk;
 }
 
