@@ -117,5 +117,7 @@ void registerPointAlpha();
 void registerMoveBorder();
 void registerMoveConvert();
 void registerPointLut();
+void registerFilter();
+void registerMeasure();
 
 }  // namespace pxlbench

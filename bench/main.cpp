@@ -72,6 +72,8 @@ int main(int argc, char** argv) {
   pxlbench::registerPoint();
   pxlbench::registerPointAlpha();
   pxlbench::registerPointLut();
+  pxlbench::registerFilter();
+  pxlbench::registerMeasure();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

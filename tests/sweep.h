@@ -44,6 +44,12 @@ inline T sweepValue(const void* p) {
   return v;
 }
 
+// Per-channel level counts and bounds a multi-channel histogram accepts:
+// two levels, one bin per channel, over the 8u range.
+static const int kSweepLevelCounts[4] = {2, 2, 2, 2};
+static const Pxl32s kSweepLowerLevels[4] = {0, 0, 0, 0};
+static const Pxl32s kSweepUpperLevels[4] = {256, 256, 256, 256};
+
 // A program that loads the library by path defines this as null first.
 #ifndef PXL_SWEEP_FN
 #define PXL_SWEEP_FN(name) reinterpret_cast<const void*>(&name)

@@ -8,6 +8,7 @@
 #include <cfloat>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <random>
 #include <vector>
 
@@ -58,6 +59,24 @@ TEST(Sum, FloatRoutesDifferInTheLastBits) {
   // Mean passes its hint on.
   ASSERT_EQ(pxliMean_32f_C1R(row, 128, {32, 1}, &mean, 2), pxlStsOk);
   EXPECT_EQ(mean, 100000001.0 / 32);
+}
+
+TEST(Sum, NaNTotalIsTheOneQuietNaN) {
+  // Two NaNs of other bits meet in one lane: which one an addition passes on
+  // is the compiler's choice, so the total is the one quiet NaN on both routes.
+  Pxl32f row[40];
+  for (int i = 0; i < 40; ++i) row[i] = float(i);
+  const std::uint32_t a = 0xFFC00001u, b = 0x7FC0BEEFu;
+  std::memcpy(&row[3], &a, 4), std::memcpy(&row[19], &b, 4);
+  for (int hint : {0, 2}) {
+    Pxl64f s = 0, m = 0;
+    ASSERT_EQ(pxliSum_32f_C1R(row, 160, {40, 1}, &s, hint), pxlStsOk);
+    ASSERT_EQ(pxliMean_32f_C1R(row, 160, {40, 1}, &m, hint), pxlStsOk);
+    std::uint64_t sb, mb;
+    std::memcpy(&sb, &s, 8), std::memcpy(&mb, &m, 8);
+    EXPECT_EQ(sb, 0x7FF8000000000000u) << hint;
+    EXPECT_EQ(mb, 0x7FF8000000000000u) << hint;
+  }
 }
 
 TEST(Mean, COneDividesOthersMultiplyByAnExtendedReciprocal) {

@@ -52,7 +52,7 @@ inline std::int32_t roundDivBy(std::int32_t s) {
 template <class D, class A>
 inline D finish(A s, Div d) {
   if constexpr (std::is_same_v<A, float>) {
-    return d == Div::None ? s : s * reciprocal(d);
+    return oneNaN(d == Div::None ? s : s * reciprocal(d));
   } else {
     switch (d) {
       case Div::By8: return saturate<D>(roundDivBy<8>(s));

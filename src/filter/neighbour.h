@@ -78,11 +78,11 @@ inline std::int32_t roundDiv(std::int32_t s, std::int32_t d) {
 }
 
 // Clamp to the destination type: 0..255, -32768..32767; a float is stored
-// as computed (infinities and NaNs pass).
+// as computed (infinities pass, any NaN as the one NaN of oneNaN).
 template <class D, class V>
 inline D saturate(V v) {
   if constexpr (std::is_same_v<D, Pxl32f>) {
-    return D(v);
+    return oneNaN(D(v));
   } else {
     constexpr V lo = V(std::numeric_limits<D>::min()), hi = V(std::numeric_limits<D>::max());
     return D(v < lo ? lo : v > hi ? hi : v);
@@ -95,7 +95,7 @@ inline D saturate(V v) {
 template <class D>
 inline D fromFloat(float v) {
   if constexpr (std::is_same_v<D, Pxl32f>) {
-    return v;
+    return oneNaN(v);
   } else {
     constexpr float lo = float(std::numeric_limits<D>::min()), hi = float(std::numeric_limits<D>::max());
     if (v > hi) return std::numeric_limits<D>::max();

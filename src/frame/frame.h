@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 
 #include "frame/types.h"
 
@@ -22,6 +23,18 @@ inline bool anyNull(const P*... p) {
 // Height before width, as the scaled arithmetic looks at them; both give the
 // same status, so the order is invisible to a caller.
 inline bool badSize(PxlSize roi) { return roi.height < 1 || roi.width < 1; }
+
+// A float result that is NaN leaves as the one quiet NaN (0x7FC00000 in
+// float, 0x7FF8000000000000 in double). When two NaNs meet in an addition or
+// a product, the one passed on is the instruction's first operand, and for a
+// commutative operation the compiler picks that order freely, differently in
+// two-operand and three-operand instruction forms: without this rule each
+// instruction level gives other NaN bits. It costs a compare and a blend per
+// vector of results.
+template <class V>
+inline V oneNaN(V v) {
+  return v != v ? std::numeric_limits<V>::quiet_NaN() : v;
+}
 
 template <class... S>
 inline bool badStep(S... steps) {

@@ -13,6 +13,7 @@
 #include <limits>
 
 #include "frame/frame.h"
+#include "simd/vec.h"
 
 namespace pxl::measure {
 
@@ -174,7 +175,7 @@ PxlStatus sum(const T* src, int step, PxlSize roi, Pxl64f* out, int hint = 0) {
   if (badSize(roi)) return pxlStsSize;
   Ext s[4];
   sumOf<T, L>(src, step, roi, s, hint);
-  for (int c = 0; c < processedOf(L); ++c) out[c] = double(s[c]);
+  for (int c = 0; c < processedOf(L); ++c) out[c] = oneNaN(double(s[c]));
   return pxlStsOk;
 }
 
@@ -214,11 +215,34 @@ struct Extreme {
 };
 
 // One row's extremes per channel, folded into acc.
+//
+// 32f C1 keeps 16 running values, lane j taking columns j, j + 16, ... of
+// whole blocks, each updated by the rule above (which the vector minimum and
+// maximum instructions compute exactly, NaN included); the lanes then enter
+// acc in lane order, and the tail sample by sample. Sixteen lanes at every
+// instruction level: with a NaN, or zeros of both signs, the lane split
+// decides the bits of the result, so it must not follow the register width.
+// The compiler cannot vectorise the serial rule itself (it is not
+// associative once NaN is allowed).
 template <class T, Lay L, bool Max>
 inline void rowExtreme(const T* p, int width, T* acc) {
   constexpr int C = channelsOf(L), P = processedOf(L);
   using E = Extreme<T, Max>;
-  if constexpr (C == 1) {
+  if constexpr (C == 1 && std::is_same_v<T, Pxl32f>) {
+    constexpr int kLanes = 16;
+    using V = simd::Vec<float, kLanes>;
+    V lanes = simd::splat<V>(E::start());
+    int x = 0;
+    for (; x + kLanes <= width; x += kLanes) {
+      const V v = simd::load<V>(p + x);
+      lanes = Max ? simd::vmax(lanes, v) : simd::vmin(lanes, v);
+    }
+    T a = acc[0];
+    if (x > 0)
+      for (int j = 0; j < kLanes; ++j) a = E::pick(a, lanes[j]);
+    for (; x < width; ++x) a = E::pick(a, loadSample(p + x));
+    acc[0] = a;
+  } else if constexpr (C == 1) {
     T a = acc[0];
     for (int x = 0; x < width; ++x) a = E::pick(a, loadSample(p + x));
     acc[0] = a;

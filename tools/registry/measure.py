@@ -79,7 +79,9 @@ def histograms():
                 args = IMG(T) + [('Pxl32s* const*', 'hist'), (f'const {Lv}* const*', 'levels'),
                                  ('const int*', 'nLevels')]
                 fn = f'pxl::measure::histogramRange<{T}, pxl::Lay::{l}>'
-                order, sweep = '', {}  # level counts are checked before the size: not the sweep's order
+                # Level counts are checked after the pointers and before the
+                # size: with good counts the sweep sees its own order.
+                order, sweep = 'NST', {'nLevels': 'kSweepLevelCounts'}
             out.append(entry(f'pxliHistogramRange_{t}_{l}R', args, fn, order, sweep))
     for t in ('8u', '16s', '16u'):
         T = CTYPE[t]
@@ -93,7 +95,8 @@ def histograms():
                 args = IMG(T) + [('Pxl32s* const*', 'hist'), ('Pxl32s* const*', 'levels'), ('const int*', 'nLevels'),
                                  ('const Pxl32s*', 'lowerLevel'), ('const Pxl32s*', 'upperLevel')]
                 fn = f'pxl::measure::histogramEven<{T}, pxl::Lay::{l}>'
-                order, sweep = '', {}
+                order, sweep = 'NST', {'nLevels': 'kSweepLevelCounts', 'lowerLevel': 'kSweepLowerLevels',
+                                       'upperLevel': 'kSweepUpperLevels'}
             out.append(entry(f'pxliHistogramEven_{t}_{l}R', args, fn, order, sweep))
     return out
 
