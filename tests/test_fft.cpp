@@ -6,6 +6,7 @@
 #include <complex>
 #include <cstring>
 #include <random>
+#include <thread>
 #include <vector>
 
 #include "pxls.h"
@@ -211,6 +212,29 @@ TEST(FFT, ImpulseAndShiftGiveExactSpectra) {
     EXPECT_NEAR(y[k].im, im[k % 4], 1e-6);
   }
   pxlsFFTFree_C_32fc(s);
+}
+
+// One plan serves several threads at once, each with scratch of its own
+// (or none), and gives each the result of a lone call.
+TEST(FFT, OnePlanSharedByThreads) {
+  PxlDftCtx* s = nullptr;
+  const int n = 1000;
+  ASSERT_EQ(pxlsDFTInitAlloc_C_32fc(&s, n, pxlFftScaleFwd, 0), pxlStsOk);
+  auto x = randomC(n, 77);
+  std::vector<Pxl32fc> ref(n);
+  ASSERT_EQ(pxlsDFTFwd_CToC_32fc(x.data(), ref.data(), s, nullptr), pxlStsOk);
+  std::vector<std::vector<Pxl32fc>> out(4, std::vector<Pxl32fc>(n));
+  std::vector<std::thread> team;
+  for (int t = 0; t < 4; ++t)
+    team.emplace_back([&, t] {
+      int bs = 0;
+      pxlsDFTGetBufSize_C_32fc(s, &bs);
+      std::vector<Pxl8u> buf(bs);
+      for (int r = 0; r < 20; ++r) pxlsDFTFwd_CToC_32fc(x.data(), out[t].data(), s, t % 2 ? buf.data() : nullptr);
+    });
+  for (auto& th : team) th.join();
+  for (auto& o : out) EXPECT_EQ(0, std::memcmp(o.data(), ref.data(), n * sizeof(Pxl32fc)));
+  pxlsDFTFree_C_32fc(s);
 }
 
 TEST(DFT, AnyLengthMatchesSlowDft) {
