@@ -44,6 +44,9 @@ namespace pxl::transform {
 namespace {
 
 inline long long A16(long long x) { return (x + 15) & ~15LL; }
+// Scratch bytes per sample of the longer side: four complex lines, so that
+// four column pairs are gathered in one sweep down the image.
+constexpr long long kLines = 32;
 
 // The one-dimensional engines behind the two plan kinds.
 struct FftOps {
@@ -114,7 +117,7 @@ PxlStatus initAlloc(typename O::Ctx** spec, int sx, int sy, int flag, int hint, 
     if (W != H) b2 = make(&s->complexCol, sy, false);
     else s->complexCol = s->complexRow;
     need = std::max(64 * H + b2, (long long)b1);
-    need = std::max(need, A16(8 * std::max(W, H)) + std::max(b1, b2));
+    need = std::max(need, A16(kLines * std::max(W, H)) + std::max(b1, b2));
   } else {
     const int b1 = make(&s->realRow, sx, true);
     int b2 = b1;
@@ -122,7 +125,7 @@ PxlStatus initAlloc(typename O::Ctx** spec, int sx, int sy, int flag, int hint, 
     else s->realCol = s->realRow;
     const int b3 = make(&s->complexCol, sy, false);
     need = std::max({16 * W + b1, 16 * H + b2, 64 * H + b3});
-    need = std::max(need, A16(8 * std::max(W, H)) + std::max({b1, b2, b3}));
+    need = std::max(need, A16(kLines * std::max(W, H)) + std::max({b1, b2, b3}));
   }
   if (st != pxlStsOk) { dropAll<O>(s); return st; }
   if (need > 0x7fffffffLL - 64) { dropAll<O>(s); return pxlStsAlloc; }
@@ -159,12 +162,35 @@ struct Img {
   }
 };
 
+// The complex column pairs (2k-1, 2k) of channel c, up to four at a time:
+// one sweep down the image gathers them into four lines of H samples.
+template <class O>
+void complexColumns(const typename O::Ctx* s, Img<Pxl32f> from, Img<Pxl32f> to, int c, Pxl32fc* z, void* b,
+                    bool inv) {
+  const int W = O::len(s->sizeX), H = O::len(s->sizeY), pairs = (W - 1) / 2;
+  for (int k0 = 1; k0 <= pairs; k0 += 4) {
+    const int g = std::min(4, pairs - k0 + 1);
+    for (int v = 0; v < H; ++v)
+      for (int t = 0; t < g; ++t) {
+        const int k = k0 + t;
+        z[t * H + v] = {loadSample(from.at(2 * k - 1, v) + c), loadSample(from.at(2 * k, v) + c)};
+      }
+    for (int t = 0; t < g; ++t) O::c(s->complexCol, z + t * H, b, inv);
+    for (int v = 0; v < H; ++v)
+      for (int t = 0; t < g; ++t) {
+        const int k = k0 + t;
+        storeSample(to.at(2 * k - 1, v) + c, z[t * H + v].re);
+        storeSample(to.at(2 * k, v) + c, z[t * H + v].im);
+      }
+  }
+}
+
 // One channel c of a real forward transform, src -> dst.
 template <class O>
 void realFwd(const typename O::Ctx* s, Img<Pxl32f> src, Img<Pxl32f> dst, int c, char* scratch) {
   const int W = O::len(s->sizeX), H = O::len(s->sizeY);
   auto* line = reinterpret_cast<Pxl32f*>(scratch);
-  void* b = scratch + A16(8LL * std::max(W, H));
+  void* b = scratch + A16(kLines * std::max(W, H));
   for (int v = 0; v < H; ++v) {
     for (int u = 0; u < W; ++u) line[u] = loadSample(src.at(u, v) + c);
     O::rFwd(s->realRow, line, b);
@@ -177,14 +203,7 @@ void realFwd(const typename O::Ctx* s, Img<Pxl32f> src, Img<Pxl32f> dst, int c, 
   };
   realColumn(0);
   auto* z = reinterpret_cast<Pxl32fc*>(line);
-  for (int k = 1; 2 * k < W; ++k) {
-    for (int v = 0; v < H; ++v) z[v] = {loadSample(dst.at(2 * k - 1, v) + c), loadSample(dst.at(2 * k, v) + c)};
-    O::c(s->complexCol, z, b, false);
-    for (int v = 0; v < H; ++v) {
-      storeSample(dst.at(2 * k - 1, v) + c, z[v].re);
-      storeSample(dst.at(2 * k, v) + c, z[v].im);
-    }
-  }
+  complexColumns<O>(s, dst, dst, c, z, b, false);
   if (W % 2 == 0 && W > 1) realColumn(W - 1);
 }
 
@@ -192,7 +211,7 @@ template <class O>
 void realInv(const typename O::Ctx* s, Img<Pxl32f> src, Img<Pxl32f> dst, int c, char* scratch) {
   const int W = O::len(s->sizeX), H = O::len(s->sizeY);
   auto* line = reinterpret_cast<Pxl32f*>(scratch);
-  void* b = scratch + A16(8LL * std::max(W, H));
+  void* b = scratch + A16(kLines * std::max(W, H));
   auto realColumn = [&](int u) {
     for (int v = 0; v < H; ++v) line[v] = loadSample(src.at(u, v) + c);
     O::rInv(s->realCol, line, b);
@@ -200,14 +219,7 @@ void realInv(const typename O::Ctx* s, Img<Pxl32f> src, Img<Pxl32f> dst, int c, 
   };
   realColumn(0);
   auto* z = reinterpret_cast<Pxl32fc*>(line);
-  for (int k = 1; 2 * k < W; ++k) {
-    for (int v = 0; v < H; ++v) z[v] = {loadSample(src.at(2 * k - 1, v) + c), loadSample(src.at(2 * k, v) + c)};
-    O::c(s->complexCol, z, b, true);
-    for (int v = 0; v < H; ++v) {
-      storeSample(dst.at(2 * k - 1, v) + c, z[v].re);
-      storeSample(dst.at(2 * k, v) + c, z[v].im);
-    }
-  }
+  complexColumns<O>(s, src, dst, c, z, b, true);
   if (W % 2 == 0 && W > 1) realColumn(W - 1);
   for (int v = 0; v < H; ++v) {
     for (int u = 0; u < W; ++u) line[u] = loadSample(dst.at(u, v) + c);
@@ -220,7 +232,7 @@ template <class O>
 void complexRun(const typename O::Ctx* s, Img<Pxl32fc> src, Img<Pxl32fc> dst, char* scratch, bool inv) {
   const int W = O::len(s->sizeX), H = O::len(s->sizeY);
   auto* z = reinterpret_cast<Pxl32fc*>(scratch);
-  void* b = scratch + A16(8LL * std::max(W, H));
+  void* b = scratch + A16(kLines * std::max(W, H));
   for (int v = 0; v < H; ++v) {
     for (int u = 0; u < W; ++u) z[u] = loadSample(src.at(u, v));
     O::c(s->complexRow, z, b, inv);
