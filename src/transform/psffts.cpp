@@ -106,6 +106,21 @@ void bitReverse(Pxl32fc* d, int n, const Pxl32s* mid) {
   }
 }
 
+// One run of h radix-2 butterflies, lo[j] +- w^j * hi[j]; sg = -1 takes
+// the conjugate twiddles of the inverse. A constant stride of 1 lets the
+// compiler vectorise the contiguous stages.
+inline void butterflies(float* __restrict lo, float* __restrict hi, const Pxl32f* __restrict t, int h, int stride,
+                        float sg) {
+  for (int j = 0; j < h; ++j) {
+    const float wr = t[2 * j * stride], wi = sg * t[2 * j * stride + 1];
+    const float xr = hi[2 * j], xi = hi[2 * j + 1];
+    const float pr = xr * wr - xi * wi, pi = xr * wi + xi * wr;
+    const float ur = lo[2 * j], ui = lo[2 * j + 1];
+    lo[2 * j] = ur + pr; lo[2 * j + 1] = ui + pi;
+    hi[2 * j] = ur - pr; hi[2 * j + 1] = ui - pi;
+  }
+}
+
 // Radix-2 stages over bit-reversed data. stageTw: concatenated tables of
 // the stages up to 2^min(n, 10); half: cos/-sin of k < N/2 for the longer
 // stages of a core above 1024.
@@ -135,16 +150,10 @@ void stages(Pxl32fc* d, int n, const Pxl32f* stageTw, const Pxl32f* half, bool i
     const int stride = contiguous ? 1 : N / len;
     const Pxl32f* t = contiguous ? tw : half;
     for (int i = 0; i < N; i += len) {
-      float* lo = f + 2 * i;
-      float* hi = lo + 2 * h;
-      for (int j = 0; j < h; ++j) {
-        const float wr = t[2 * j * stride], wi = sg * t[2 * j * stride + 1];
-        const float xr = hi[2 * j], xi = hi[2 * j + 1];
-        const float pr = xr * wr - xi * wi, pi = xr * wi + xi * wr;
-        const float ur = lo[2 * j], ui = lo[2 * j + 1];
-        lo[2 * j] = ur + pr; lo[2 * j + 1] = ui + pi;
-        hi[2 * j] = ur - pr; hi[2 * j + 1] = ui - pi;
-      }
+      float* __restrict lo = f + 2 * i;
+      float* __restrict hi = lo + 2 * h;
+      if (contiguous) butterflies(lo, hi, t, h, 1, sg);
+      else butterflies(lo, hi, t, h, stride, sg);
     }
     if (contiguous) tw += 2 * h;
   }
