@@ -146,6 +146,102 @@ static int measureDemo(const char* dir, const Pxl8u* img, int step) {
     return ok;
 }
 
+/* Frequency transforms: the log-magnitude spectrum of an image (DFT, its
+ * Pack layout read back cell by cell), a Gaussian low-pass made by forward
+ * transform, multiply and inverse, a JPEG-like DCT quantise/dequantise round
+ * trip, and a one-level Haar wavelet decomposition. */
+static int packFreq(int u, int v, int* kx, int* jy) {
+    int realCol = u == 0 || (W % 2 == 0 && u == W - 1);
+    *kx = u == 0 ? 0 : (W % 2 == 0 && u == W - 1) ? W / 2 : (u + 1) / 2;
+    if (realCol) *jy = v == 0 ? 0 : (H % 2 == 0 && v == H - 1) ? H / 2 : (v + 1) / 2;
+    else *jy = v < H - v ? v : H - v;
+    return realCol;
+}
+
+static int transformTour(const char* dir, const Pxl8u* img, int step) {
+    PxlSize roi = {W, H};
+    Pxl32f* f = (Pxl32f*)malloc(sizeof(Pxl32f) * W * H);
+    Pxl8u* out = (Pxl8u*)malloc((size_t)W * H);
+    PxlDftCtx2D* spec = NULL;
+    int ok = f && out && pxliDFTInitAlloc_R_32f(&spec, roi, pxlFftScaleInv, 0) == pxlStsOk;
+    if (!ok) { free(f); free(out); return 0; }
+    for (int y = 0; y < H; ++y)
+        for (int x = 0; x < W; ++x) f[y * W + x] = img[(size_t)y * step + x];
+    ok &= pxliDFTFwd_RToPack_32f_C1IR(f, 4 * W, spec, NULL) == pxlStsOk;
+    /* Magnitude per stored cell pair, on a log scale, zero frequency centred. */
+    double top = 0;
+    static double mag[W * H];
+    for (int v = 0; v < H; ++v)
+        for (int u = 0; u < W; ++u) {
+            int kx, jy, real = packFreq(u, v, &kx, &jy);
+            double re, im = 0;
+            if (real) { re = f[(v & ~1 ? ((v + 1) / 2) * 2 - 1 : v) * W + u]; if (v && !(H % 2 == 0 && v == H - 1)) im = f[((v + 1) / 2) * 2 * W + u]; }
+            else { re = f[v * W + (kx ? 2 * kx - 1 : 0)]; im = kx ? f[v * W + 2 * kx] : 0; }
+            mag[v * W + u] = log1p(sqrt(re * re + im * im));
+            if (mag[v * W + u] > top) top = mag[v * W + u];
+        }
+    for (int v = 0; v < H; ++v)
+        for (int u = 0; u < W; ++u) {
+            int kx, jy;
+            packFreq(u, v, &kx, &jy);
+            int x = (W / 2 + (u % 2 ? kx : -kx) + W) % W, y = (H / 2 + (v < H / 2 ? jy : -jy) + H) % H;
+            out[y * W + x] = (Pxl8u)(255 * mag[v * W + u] / top);
+        }
+    writePnm(dir, "spectrum", out, W, 1);
+    /* Gaussian low-pass: every stored value gets the real gain of its frequency. */
+    for (int v = 0; v < H; ++v)
+        for (int u = 0; u < W; ++u) {
+            int kx, jy;
+            packFreq(u, v, &kx, &jy);
+            f[v * W + u] *= (Pxl32f)exp(-(double)(kx * kx + jy * jy) / (2.0 * 20 * 20));
+        }
+    ok &= pxliDFTInv_PackToR_32f_C1IR(f, 4 * W, spec, NULL) == pxlStsOk;
+    for (int i = 0; i < W * H; ++i) out[i] = (Pxl8u)(f[i] < 0 ? 0 : f[i] > 255 ? 255 : f[i] + 0.5f);
+    writePnm(dir, "lowpass_fft", out, W, 1);
+    pxliDFTFree_R_32f(spec);
+    /* DCT: level shift, quantise coarser at higher frequencies, back. */
+    for (int by = 0; by < H; by += 8)
+        for (int bx = 0; bx < W; bx += 8) {
+            Pxl16s c[64];
+            ok &= pxliDCT8x8FwdLS_8u16s_C1R(img + (size_t)by * step + bx, step, c, -128) == pxlStsOk;
+            for (int i = 0; i < 64; ++i) {
+                int q = 16 + 6 * (i / 8 + i % 8);
+                c[i] = (Pxl16s)(q * (int)floor(c[i] / (double)q + 0.5));
+            }
+            ok &= pxliDCT8x8InvLSClip_16s8u_C1R(c, out + by * W + bx, W, 128, 0, 255) == pxlStsOk;
+        }
+    writePnm(dir, "dct_quantised", out, W, 1);
+    /* Haar wavelet: four half-size subbands tiled into one picture. */
+    static const Pxl32f lo[2] = {0.5f, 0.5f}, hi[2] = {0.5f, -0.5f};
+    PxlWTFwdCtx* wt = NULL;
+    int bs = 0;
+    for (int y = 0; y < H; ++y)
+        for (int x = 0; x < W; ++x) f[y * W + x] = img[(size_t)y * step + x];
+    ok &= pxliWTFwdInitAlloc_32f_C1R(&wt, lo, 2, 1, hi, 2, 1) == pxlStsOk;
+    ok &= pxliWTFwdGetBufSize_C1R(wt, &bs) == pxlStsOk;
+    Pxl32f* bands = (Pxl32f*)malloc(sizeof(Pxl32f) * W * H);
+    Pxl8u* buf = (Pxl8u*)malloc(bs > 0 ? (size_t)bs : 1);
+    if (ok && bands && buf) {
+        /* the subbands tile one W x H float picture: LL, LH on top, HL, HH below */
+        int bst = 4 * W;
+        ok &= pxliWTFwd_32f_C1R(f, 4 * W, bands, bst, bands + (H / 2) * W, bst, bands + W / 2, bst,
+                                bands + (H / 2) * W + W / 2, bst, (PxlSize){W / 2, H / 2}, wt, buf) == pxlStsOk;
+        for (int y = 0; y < H; ++y)
+            for (int x = 0; x < W; ++x) {
+                double v = bands[y * W + x];
+                if (x >= W / 2 || y >= H / 2) v = 128 + 4 * v;
+                out[y * W + x] = (Pxl8u)(v < 0 ? 0 : v > 255 ? 255 : v);
+            }
+        writePnm(dir, "wavelet_haar", out, W, 1);
+    } else {
+        ok = 0;
+    }
+    pxliWTFwdFree_32f_C1R(wt);
+    free(bands); free(buf); free(f); free(out);
+    printf("transforms: spectrum, FFT low-pass, DCT quantise round trip and Haar wavelet written\n");
+    return ok;
+}
+
 int main(int argc, char** argv) {
     const char* dir = argc > 1 ? argv[1] : ".";
     struct Timing t[16];
@@ -276,6 +372,8 @@ int main(int argc, char** argv) {
     ok &= filterTour(dir, a, s1, t, &nt);
 
     ok &= measureDemo(dir, a, s1);
+
+    ok &= transformTour(dir, a, s1);
 
     printLibraryLevel();
     printf("pxl_demo %s: %s, %d results in %s, %d threads (", pxliGetLibVersion()->versionText,

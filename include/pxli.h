@@ -4174,6 +4174,206 @@ PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_32f_C4IR(Pxl32f* srcDst, int 
 PXL_API PxlStatus PXL_CALL pxliAddRandGauss_Direct_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
     PxlSize roi, Pxl32f mean, Pxl32f deviation, Pxl32u* seed);
 
+/* ---- pxliDCT8x8: 8x8 discrete cosine transform of one block */
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Fwd_16s_C1(const Pxl16s* src, Pxl16s* dst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Fwd_16s_C1I(Pxl16s* srcDst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Fwd_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Fwd_8u16s_C1R(const Pxl8u* src, int srcStep, Pxl16s* dst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8FwdLS_8u16s_C1R(const Pxl8u* src, int srcStep, Pxl16s* dst,
+    Pxl16s value);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Inv_16s_C1(const Pxl16s* src, Pxl16s* dst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Inv_16s_C1I(Pxl16s* srcDst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Inv_16s_C1R(const Pxl16s* src, Pxl16s* dst, int dstStep);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Inv_16s8u_C1R(const Pxl16s* src, Pxl8u* dst, int dstStep);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8InvLSClip_16s8u_C1R(const Pxl16s* src, Pxl8u* dst, int dstStep,
+    Pxl16s value, int clipMin, int clipMax);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Inv_2x2_16s_C1(const Pxl16s* src, Pxl16s* dst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Inv_4x4_16s_C1(const Pxl16s* src, Pxl16s* dst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Inv_2x2_16s_C1I(Pxl16s* srcDst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Inv_4x4_16s_C1I(Pxl16s* srcDst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Fwd_32f_C1(const Pxl32f* src, Pxl32f* dst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Inv_32f_C1(const Pxl32f* src, Pxl32f* dst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Fwd_32f_C1I(Pxl32f* srcDst);
+PXL_API PxlStatus PXL_CALL pxliDCT8x8Inv_32f_C1I(Pxl32f* srcDst);
+
+/* ---- pxliZigzag: zigzag reorder of an 8x8 block */
+PXL_API PxlStatus PXL_CALL pxliZigzagFwd8x8_16s_C1(const Pxl16s* src, Pxl16s* dst);
+PXL_API PxlStatus PXL_CALL pxliZigzagInv8x8_16s_C1(const Pxl16s* src, Pxl16s* dst);
+
+/* ---- pxliFFT: two-dimensional FFT of power-of-two sides; real spectra in the Pack layout */
+PXL_API PxlStatus PXL_CALL pxliFFTInitAlloc_C_32fc(PxlFftCtx2D** spec, int orderX, int orderY,
+    int flag, int hint);
+PXL_API PxlStatus PXL_CALL pxliFFTFree_C_32fc(PxlFftCtx2D* spec);
+PXL_API PxlStatus PXL_CALL pxliFFTGetBufSize_C_32fc(const PxlFftCtx2D* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxliFFTInitAlloc_R_32f(PxlFftCtx2D** spec, int orderX, int orderY,
+    int flag, int hint);
+PXL_API PxlStatus PXL_CALL pxliFFTFree_R_32f(PxlFftCtx2D* spec);
+PXL_API PxlStatus PXL_CALL pxliFFTGetBufSize_R_32f(const PxlFftCtx2D* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxliFFTInitAlloc_R_32s(PxlFftCtx2D32s** spec, int orderX, int orderY,
+    int flag, int hint);
+PXL_API PxlStatus PXL_CALL pxliFFTFree_R_32s(PxlFftCtx2D32s* spec);
+PXL_API PxlStatus PXL_CALL pxliFFTGetBufSize_R_32s(const PxlFftCtx2D32s* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_CToC_32fc_C1R(const Pxl32fc* src, int srcStep, Pxl32fc* dst,
+    int dstStep, const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_CToC_32fc_C1IR(Pxl32fc* srcDst, int srcDstStep,
+    const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_CToC_32fc_C1R(const Pxl32fc* src, int srcStep, Pxl32fc* dst,
+    int dstStep, const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_CToC_32fc_C1IR(Pxl32fc* srcDst, int srcDstStep,
+    const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_RToPack_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_RToPack_32f_C1IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_RToPack_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_RToPack_32f_C3IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_RToPack_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_RToPack_32f_C4IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_RToPack_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_RToPack_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_PackToR_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_PackToR_32f_C1IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_PackToR_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_PackToR_32f_C3IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_PackToR_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_PackToR_32f_C4IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_PackToR_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_PackToR_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlFftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_RToPack_8u32s_C1RSfs(const Pxl8u* src, int srcStep,
+    Pxl32s* dst, int dstStep, const PxlFftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_RToPack_8u32s_C3RSfs(const Pxl8u* src, int srcStep,
+    Pxl32s* dst, int dstStep, const PxlFftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_RToPack_8u32s_C4RSfs(const Pxl8u* src, int srcStep,
+    Pxl32s* dst, int dstStep, const PxlFftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTFwd_RToPack_8u32s_AC4RSfs(const Pxl8u* src, int srcStep,
+    Pxl32s* dst, int dstStep, const PxlFftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_PackToR_32s8u_C1RSfs(const Pxl32s* src, int srcStep,
+    Pxl8u* dst, int dstStep, const PxlFftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_PackToR_32s8u_C3RSfs(const Pxl32s* src, int srcStep,
+    Pxl8u* dst, int dstStep, const PxlFftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_PackToR_32s8u_C4RSfs(const Pxl32s* src, int srcStep,
+    Pxl8u* dst, int dstStep, const PxlFftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliFFTInv_PackToR_32s8u_AC4RSfs(const Pxl32s* src, int srcStep,
+    Pxl8u* dst, int dstStep, const PxlFftCtx2D32s* spec, int scale, Pxl8u* buffer);
+
+/* ---- pxliDFT: two-dimensional DFT of any size; real spectra in the Pack layout */
+PXL_API PxlStatus PXL_CALL pxliDFTInitAlloc_C_32fc(PxlDftCtx2D** spec, PxlSize roi, int flag,
+    int hint);
+PXL_API PxlStatus PXL_CALL pxliDFTFree_C_32fc(PxlDftCtx2D* spec);
+PXL_API PxlStatus PXL_CALL pxliDFTGetBufSize_C_32fc(const PxlDftCtx2D* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxliDFTInitAlloc_R_32f(PxlDftCtx2D** spec, PxlSize roi, int flag,
+    int hint);
+PXL_API PxlStatus PXL_CALL pxliDFTFree_R_32f(PxlDftCtx2D* spec);
+PXL_API PxlStatus PXL_CALL pxliDFTGetBufSize_R_32f(const PxlDftCtx2D* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxliDFTInitAlloc_R_32s(PxlDftCtx2D32s** spec, PxlSize roi, int flag,
+    int hint);
+PXL_API PxlStatus PXL_CALL pxliDFTFree_R_32s(PxlDftCtx2D32s* spec);
+PXL_API PxlStatus PXL_CALL pxliDFTGetBufSize_R_32s(const PxlDftCtx2D32s* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_CToC_32fc_C1R(const Pxl32fc* src, int srcStep, Pxl32fc* dst,
+    int dstStep, const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_CToC_32fc_C1IR(Pxl32fc* srcDst, int srcDstStep,
+    const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_CToC_32fc_C1R(const Pxl32fc* src, int srcStep, Pxl32fc* dst,
+    int dstStep, const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_CToC_32fc_C1IR(Pxl32fc* srcDst, int srcDstStep,
+    const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_RToPack_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_RToPack_32f_C1IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_RToPack_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_RToPack_32f_C3IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_RToPack_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_RToPack_32f_C4IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_RToPack_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_RToPack_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_PackToR_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_PackToR_32f_C1IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_PackToR_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_PackToR_32f_C3IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_PackToR_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_PackToR_32f_C4IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_PackToR_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_PackToR_32f_AC4IR(Pxl32f* srcDst, int srcDstStep,
+    const PxlDftCtx2D* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_RToPack_8u32s_C1RSfs(const Pxl8u* src, int srcStep,
+    Pxl32s* dst, int dstStep, const PxlDftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_RToPack_8u32s_C3RSfs(const Pxl8u* src, int srcStep,
+    Pxl32s* dst, int dstStep, const PxlDftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_RToPack_8u32s_C4RSfs(const Pxl8u* src, int srcStep,
+    Pxl32s* dst, int dstStep, const PxlDftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTFwd_RToPack_8u32s_AC4RSfs(const Pxl8u* src, int srcStep,
+    Pxl32s* dst, int dstStep, const PxlDftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_PackToR_32s8u_C1RSfs(const Pxl32s* src, int srcStep,
+    Pxl8u* dst, int dstStep, const PxlDftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_PackToR_32s8u_C3RSfs(const Pxl32s* src, int srcStep,
+    Pxl8u* dst, int dstStep, const PxlDftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_PackToR_32s8u_C4RSfs(const Pxl32s* src, int srcStep,
+    Pxl8u* dst, int dstStep, const PxlDftCtx2D32s* spec, int scale, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliDFTInv_PackToR_32s8u_AC4RSfs(const Pxl32s* src, int srcStep,
+    Pxl8u* dst, int dstStep, const PxlDftCtx2D32s* spec, int scale, Pxl8u* buffer);
+
+/* ---- pxliWT: one level of a separable wavelet transform with the caller's filters */
+PXL_API PxlStatus PXL_CALL pxliWTFwdInitAlloc_32f_C1R(PxlWTFwdCtx** spec, const Pxl32f* pTapsLow,
+    int lenLow, int anchorLow, const Pxl32f* pTapsHigh, int lenHigh, int anchorHigh);
+PXL_API PxlStatus PXL_CALL pxliWTFwdFree_32f_C1R(PxlWTFwdCtx* spec);
+PXL_API PxlStatus PXL_CALL pxliWTFwdGetBufSize_C1R(const PxlWTFwdCtx* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxliWTInvInitAlloc_32f_C1R(PxlWTInvCtx** spec, const Pxl32f* pTapsLow,
+    int lenLow, int anchorLow, const Pxl32f* pTapsHigh, int lenHigh, int anchorHigh);
+PXL_API PxlStatus PXL_CALL pxliWTInvFree_32f_C1R(PxlWTInvCtx* spec);
+PXL_API PxlStatus PXL_CALL pxliWTInvGetBufSize_C1R(const PxlWTInvCtx* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxliWTFwd_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dstLowLow,
+    int dstLowLowStep, Pxl32f* dstHighLow, int dstHighLowStep, Pxl32f* dstLowHigh,
+    int dstLowHighStep, Pxl32f* dstHighHigh, int dstHighHighStep, PxlSize roi,
+    const PxlWTFwdCtx* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliWTInv_32f_C1R(const Pxl32f* srcLowLow, int srcLowLowStep,
+    const Pxl32f* srcHighLow, int srcHighLowStep, const Pxl32f* srcLowHigh, int srcLowHighStep,
+    const Pxl32f* srcHighHigh, int srcHighHighStep, PxlSize roi, Pxl32f* dst, int dstStep,
+    const PxlWTInvCtx* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliWTFwdInitAlloc_32f_C3R(PxlWTFwdCtx** spec, const Pxl32f* pTapsLow,
+    int lenLow, int anchorLow, const Pxl32f* pTapsHigh, int lenHigh, int anchorHigh);
+PXL_API PxlStatus PXL_CALL pxliWTFwdFree_32f_C3R(PxlWTFwdCtx* spec);
+PXL_API PxlStatus PXL_CALL pxliWTFwdGetBufSize_C3R(const PxlWTFwdCtx* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxliWTInvInitAlloc_32f_C3R(PxlWTInvCtx** spec, const Pxl32f* pTapsLow,
+    int lenLow, int anchorLow, const Pxl32f* pTapsHigh, int lenHigh, int anchorHigh);
+PXL_API PxlStatus PXL_CALL pxliWTInvFree_32f_C3R(PxlWTInvCtx* spec);
+PXL_API PxlStatus PXL_CALL pxliWTInvGetBufSize_C3R(const PxlWTInvCtx* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxliWTFwd_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dstLowLow,
+    int dstLowLowStep, Pxl32f* dstHighLow, int dstHighLowStep, Pxl32f* dstLowHigh,
+    int dstLowHighStep, Pxl32f* dstHighHigh, int dstHighHighStep, PxlSize roi,
+    const PxlWTFwdCtx* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxliWTInv_32f_C3R(const Pxl32f* srcLowLow, int srcLowLowStep,
+    const Pxl32f* srcHighLow, int srcHighLowStep, const Pxl32f* srcLowHigh, int srcLowHighStep,
+    const Pxl32f* srcHighHigh, int srcHighHighStep, PxlSize roi, Pxl32f* dst, int dstStep,
+    const PxlWTInvCtx* spec, Pxl8u* buffer);
+
 #ifdef __cplusplus
 }
 #endif

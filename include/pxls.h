@@ -232,6 +232,51 @@ PXL_API PxlStatus PXL_CALL pxlsZero_16s(Pxl16s* dst, int length);
 PXL_API PxlStatus PXL_CALL pxlsZero_32f(Pxl32f* dst, int length);
 PXL_API PxlStatus PXL_CALL pxlsZero_16sc(Pxl16sc* dst, int length);
 
+/* ---- pxlsFFT: one-dimensional FFT of length 2^order: plans and transforms */
+PXL_API PxlStatus PXL_CALL pxlsFFTGetSize_C_32fc(int order, int flag, int hint, int* specSize,
+    int* initSize, int* bufSize);
+PXL_API PxlStatus PXL_CALL pxlsFFTInit_C_32fc(PxlFftCtx** spec, int order, int flag, int hint,
+    Pxl8u* specMem, Pxl8u* initBuf);
+PXL_API PxlStatus PXL_CALL pxlsFFTInitAlloc_C_32fc(PxlFftCtx** spec, int order, int flag, int hint);
+PXL_API PxlStatus PXL_CALL pxlsFFTFree_C_32fc(PxlFftCtx* spec);
+PXL_API PxlStatus PXL_CALL pxlsFFTGetBufSize_C_32fc(const PxlFftCtx* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxlsFFTGetSize_R_32f(int order, int flag, int hint, int* specSize,
+    int* initSize, int* bufSize);
+PXL_API PxlStatus PXL_CALL pxlsFFTInit_R_32f(PxlFftCtx** spec, int order, int flag, int hint,
+    Pxl8u* specMem, Pxl8u* initBuf);
+PXL_API PxlStatus PXL_CALL pxlsFFTInitAlloc_R_32f(PxlFftCtx** spec, int order, int flag, int hint);
+PXL_API PxlStatus PXL_CALL pxlsFFTFree_R_32f(PxlFftCtx* spec);
+PXL_API PxlStatus PXL_CALL pxlsFFTGetBufSize_R_32f(const PxlFftCtx* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxlsFFTFwd_CToC_32fc(const Pxl32fc* src, Pxl32fc* dst,
+    const PxlFftCtx* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxlsFFTInv_CToC_32fc(const Pxl32fc* src, Pxl32fc* dst,
+    const PxlFftCtx* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxlsFFTFwd_RToPack_32f(const Pxl32f* src, Pxl32f* dst,
+    const PxlFftCtx* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxlsFFTFwd_RToPerm_32f(const Pxl32f* src, Pxl32f* dst,
+    const PxlFftCtx* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxlsFFTInv_PackToR_32f(const Pxl32f* src, Pxl32f* dst,
+    const PxlFftCtx* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxlsFFTInv_PermToR_32f(const Pxl32f* src, Pxl32f* dst,
+    const PxlFftCtx* spec, Pxl8u* buffer);
+
+/* ---- pxlsDFT: one-dimensional DFT of any length: plans and transforms */
+PXL_API PxlStatus PXL_CALL pxlsDFTInitAlloc_C_32fc(PxlDftCtx** spec, int length, int flag,
+    int hint);
+PXL_API PxlStatus PXL_CALL pxlsDFTFree_C_32fc(PxlDftCtx* spec);
+PXL_API PxlStatus PXL_CALL pxlsDFTGetBufSize_C_32fc(const PxlDftCtx* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxlsDFTInitAlloc_R_32f(PxlDftCtx** spec, int length, int flag, int hint);
+PXL_API PxlStatus PXL_CALL pxlsDFTFree_R_32f(PxlDftCtx* spec);
+PXL_API PxlStatus PXL_CALL pxlsDFTGetBufSize_R_32f(const PxlDftCtx* spec, int* size);
+PXL_API PxlStatus PXL_CALL pxlsDFTFwd_CToC_32fc(const Pxl32fc* src, Pxl32fc* dst,
+    const PxlDftCtx* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxlsDFTInv_CToC_32fc(const Pxl32fc* src, Pxl32fc* dst,
+    const PxlDftCtx* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxlsDFTFwd_RToPack_32f(const Pxl32f* src, Pxl32f* dst,
+    const PxlDftCtx* spec, Pxl8u* buffer);
+PXL_API PxlStatus PXL_CALL pxlsDFTInv_PackToR_32f(const Pxl32f* src, Pxl32f* dst,
+    const PxlDftCtx* spec, Pxl8u* buffer);
+
 #ifdef __cplusplus
 }
 #endif

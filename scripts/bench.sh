@@ -31,7 +31,7 @@ stats=$build/pxl_bench.stats
 
 # ---------------------------------------------------------------- packages
 missing=()
-for pkg in libopencv-dev libbenchmark-dev; do
+for pkg in libopencv-dev libbenchmark-dev libfftw3-dev; do
   dpkg -s "$pkg" >/dev/null 2>&1 || missing+=("$pkg")
 done
 if ((${#missing[@]})); then

@@ -22,7 +22,7 @@ configure_build() {  # configure_build <build dir> <cmake options...>
 }
 
 bench=OFF
-if dpkg -s libopencv-dev >/dev/null 2>&1 && dpkg -s libbenchmark-dev >/dev/null 2>&1; then bench=ON; fi
+if dpkg -s libopencv-dev >/dev/null 2>&1 && dpkg -s libbenchmark-dev >/dev/null 2>&1 && dpkg -s libfftw3-dev >/dev/null 2>&1; then bench=ON; fi
 configure_build build -DCMAKE_BUILD_TYPE=Release -DPXL_ISA= -DPXL_BUILD_BENCH=$bench
 (cd build && ctest -j"$jobs" --output-on-failure)
 
