@@ -46,7 +46,12 @@ inline T loadSample(const T* p) {
   return v;
 }
 template <class T>
-inline void storeSample(T* p, T v) {
+struct SampleOf {
+  using type = T;
+};
+// The value converts to the sample's type, which the pointer alone decides.
+template <class T>
+inline void storeSample(T* p, typename SampleOf<T>::type v) {
   std::memcpy(p, &v, sizeof v);
 }
 
