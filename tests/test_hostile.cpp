@@ -194,16 +194,22 @@ Result resultOf(const SweepEntry& e) {
   return r;
 }
 
+// Every 16th member of the table (which is grouped by family, so each
+// family is met): eight threads that each open the library's own regions
+// oversubscribe a small machine many times over, and the whole table would
+// take minutes there.
+constexpr int kStride = 16;
+constexpr int kMembers = int(sizeof(kSweepTable) / sizeof(kSweepTable[0])) / kStride;
+const SweepEntry& member(int m) { return kSweepTable[m * kStride]; }
+
 std::vector<Result> serialResults() {
   const int saved = threads_omp_of_n_pxl;
   threads_omp_of_n_pxl = 1;
   std::vector<Result> r;
-  for (const SweepEntry& e : kSweepTable) r.push_back(resultOf(e));
+  for (int m = 0; m < kMembers; ++m) r.push_back(resultOf(member(m)));
   threads_omp_of_n_pxl = saved;
   return r;
 }
-
-constexpr int kMembers = int(sizeof(kSweepTable) / sizeof(kSweepTable[0]));
 
 }  // namespace
 
@@ -217,7 +223,7 @@ TEST(Hostile, EightApplicationThreadsAtOnceGiveTheSerialResult) {
       // side by side as well as the same one.
       for (int k = 0; k < kMembers; ++k) {
         const int m = (k + t * 7) % kMembers;
-        if (!(resultOf(kSweepTable[m]) == ref[std::size_t(m)])) {
+        if (!(resultOf(member(m)) == ref[std::size_t(m)])) {
           bad[std::size_t(t)] = m;
           return;
         }
@@ -226,13 +232,13 @@ TEST(Hostile, EightApplicationThreadsAtOnceGiveTheSerialResult) {
   for (auto& c : callers) c.join();
   for (int t = 0; t < 8; ++t)
     EXPECT_EQ(bad[std::size_t(t)], -1) << "thread " << t << ": "
-                                       << (bad[std::size_t(t)] >= 0 ? kSweepTable[bad[std::size_t(t)]].name : "");
+                                       << (bad[std::size_t(t)] >= 0 ? member(bad[std::size_t(t)]).name : "");
 }
 
 TEST(Hostile, CallsFromAnOuterParallelRegionGiveTheSerialResult) {
   const std::vector<Result> ref = serialResults();
   std::vector<int> bad(std::size_t(kMembers), 0);
 #pragma omp parallel for num_threads(4) schedule(dynamic)
-  for (int m = 0; m < kMembers; ++m) bad[std::size_t(m)] = !(resultOf(kSweepTable[m]) == ref[std::size_t(m)]);
-  for (int m = 0; m < kMembers; ++m) EXPECT_EQ(bad[std::size_t(m)], 0) << kSweepTable[m].name;
+  for (int m = 0; m < kMembers; ++m) bad[std::size_t(m)] = !(resultOf(member(m)) == ref[std::size_t(m)]);
+  for (int m = 0; m < kMembers; ++m) EXPECT_EQ(bad[std::size_t(m)], 0) << member(m).name;
 }
