@@ -180,7 +180,7 @@ inline float divSingle(float n, float d, bool& zero) {
 // data rarely has one, and the block loop stays small without it.
 template <int G>
 [[gnu::noinline]] void divGroupWithZero(const float* den, const float* num, float* out, bool& zero) {
-  for (int k = 0; k < G; ++k) out[k] = divSingle(num[k], den[k], zero);
+  for (int k = 0; k < G; ++k) storeSample(out + k, divSingle(loadSample(num + k), loadSample(den + k), zero));
 }
 
 // The widest register of floats: F8 needs only AVX for its reciprocal.
@@ -222,9 +222,9 @@ inline void divGroup(const float* den, const float* num, float* out, bool& zero)
     if (refinedBlock<FWide, 8 / (sizeof(FWide) / 4), Stream>(den, num, out)) return;
   } else {
     bool any = false;
-    for (int k = 0; k < G; ++k) any |= den[k] == 0.0f;
+    for (int k = 0; k < G; ++k) any |= loadSample(den + k) == 0.0f;
     if (!any) {
-      for (int k = 0; k < G; ++k) out[k] = refinedQuotient(num[k], den[k]);
+      for (int k = 0; k < G; ++k) storeSample(out + k, refinedQuotient(loadSample(num + k), loadSample(den + k)));
       return;
     }
   }
@@ -287,7 +287,7 @@ inline bool divRow(const float* den, const float* num, float* out, int len, int)
 template <bool Stream = false, class T>
 inline bool divRow(const T* den, const T* num, T* out, int len, int s) {
   bool zero = false;
-  for (int i = 0; i < len; ++i) out[i] = divSample(num[i], den[i], s, zero);
+  for (int i = 0; i < len; ++i) storeSample(out + i, divSample(loadSample(num + i), loadSample(den + i), s, zero));
   return zero;
 }
 
@@ -424,7 +424,7 @@ template <class T, int Ch, int Used>
 inline void divConstRow(const T* src, const T* values, T* dst, int width, int s) {
   bool zero = false;  // no constant is zero here
   for (int x = 0; x < width; ++x, src += Ch, dst += Ch)
-    for (int c = 0; c < Used; ++c) dst[c] = divSample(src[c], values[c], s, zero);
+    for (int c = 0; c < Used; ++c) storeSample(dst + c, divSample(loadSample(src + c), values[c], s, zero));
 }
 
 template <class T>
@@ -466,7 +466,7 @@ PxlStatus divAgainstScratch(const T* src, int srcStep, const T* values, T* dst, 
     if constexpr (L == Lay::AC4) {
       divRow(k, s, out, len, scale);
       for (int x = 0; x < roi.width; ++x)
-        for (int c = 0; c < 3; ++c) d[4 * x + c] = out[4 * x + c];
+        for (int c = 0; c < 3; ++c) storeSample(d + (4 * x + c), out[4 * x + c]);
     } else {
       divRow(k, s, d, len, scale);
     }
@@ -525,7 +525,7 @@ PxlStatus imageDivC(const T* src, int srcStep, ValueArg<T, L> value, T* dst, int
   if constexpr (L == Lay::C1)
     return divCMember<T, L>(src, srcStep, &value, dst, dstStep, roi, scale, false);
   else
-    return divCMember<T, L>(src, srcStep, value, dst, dstStep, roi, scale, false);
+    return divCMember<T, L>(src, srcStep, LocalValues<T>(value, processedOf(L)).get(), dst, dstStep, roi, scale, false);
 }
 
 template <class T, Lay L>
@@ -533,7 +533,7 @@ PxlStatus imageDivC(ValueArg<T, L> value, T* srcDst, int srcDstStep, PxlSize roi
   if constexpr (L == Lay::C1)
     return divCMember<T, L>(srcDst, srcDstStep, &value, srcDst, srcDstStep, roi, scale, true);
   else
-    return divCMember<T, L>(srcDst, srcDstStep, value, srcDst, srcDstStep, roi, scale, true);
+    return divCMember<T, L>(srcDst, srcDstStep, LocalValues<T>(value, processedOf(L)).get(), srcDst, srcDstStep, roi, scale, true);
 }
 
 template <class T>

@@ -232,7 +232,7 @@ PxlStatus imageMulCScale(const T* src, int srcStep, ValueArg<T, L> value, T* dst
   if constexpr (L == Lay::C1)
     return mulCScaleMember<T, L>(src, srcStep, &value, dst, dstStep, roi);
   else
-    return mulCScaleMember<T, L>(src, srcStep, value, dst, dstStep, roi);
+    return mulCScaleMember<T, L>(src, srcStep, LocalValues<T>(value, processedOf(L)).get(), dst, dstStep, roi);
 }
 
 template <class T, Lay L>

@@ -83,13 +83,13 @@ inline PxlSize serialShape(const T* a, int aStep, const T* b, int bStep, const T
 template <class Op, Path P, class T, int Ch, int Used>
 void rowComplexBinary(const T* a, const T* b, T* d, int width, int s) {
   for (int x = 0; x < width; ++x, a += Ch, b += Ch, d += Ch)
-    for (int c = 0; c < Used; ++c) d[c] = Op::template complexLane<P, T>(a[c], b[c], s);
+    for (int c = 0; c < Used; ++c) storeSample(d + c, Op::template complexLane<P, T>(loadSample(a + c), loadSample(b + c), s));
 }
 
 template <class Op, Path P, class T, int Ch, int Used>
 void rowComplexConst(const T* src, const T* values, T* d, int width, int s) {
   for (int x = 0; x < width; ++x, src += Ch, d += Ch)
-    for (int c = 0; c < Used; ++c) d[c] = Op::template complexLane<P, T>(values[c], src[c], s);
+    for (int c = 0; c < Used; ++c) storeSample(d + c, Op::template complexLane<P, T>(values[c], loadSample(src + c), s));
 }
 
 template <class Op, class T>
@@ -272,7 +272,7 @@ PxlStatus imageConst(const T* src, int srcStep, ValueArg<T, L> value, T* dst, in
   if constexpr (L == Lay::C1) {
     return constMember<Op, T, L>(src, srcStep, &value, dst, dstStep, roi, scale, false);
   } else {
-    return constMember<Op, T, L>(src, srcStep, value, dst, dstStep, roi, scale, false);
+    return constMember<Op, T, L>(src, srcStep, LocalValues<T>(value, processedOf(L)).get(), dst, dstStep, roi, scale, false);
   }
 }
 
@@ -281,7 +281,7 @@ PxlStatus imageConst(ValueArg<T, L> value, T* srcDst, int srcDstStep, PxlSize ro
   if constexpr (L == Lay::C1) {
     return constMember<Op, T, L>(srcDst, srcDstStep, &value, srcDst, srcDstStep, roi, scale, true);
   } else {
-    return constMember<Op, T, L>(srcDst, srcDstStep, value, srcDst, srcDstStep, roi, scale, true);
+    return constMember<Op, T, L>(srcDst, srcDstStep, LocalValues<T>(value, processedOf(L)).get(), srcDst, srcDstStep, roi, scale, true);
   }
 }
 

@@ -86,13 +86,13 @@ bool fastPathTakes(const K* kernel, const Footprint& f, int width) {
     // may use the whole 16-bit range.
     const int lo = Dr == Dir::Both ? -32767 : -32768, hi = Dr == Dir::Both ? 32766 : 32767;
     for (long long i = 0; i < n; ++i)
-      if (kernel[i] < lo || kernel[i] > hi) return false;
+      if (loadSample(kernel + i) < lo || loadSample(kernel + i) > hi) return false;
     return true;
   } else {
     if (Dr == Dir::Both ? f.kw < 3 : n < 3) return false;
     if constexpr (std::is_same_v<S, Pxl16s>) {
       float sum = 0.0f;
-      for (long long i = 0; i < n; ++i) sum += std::fabs(kernel[i]);
+      for (long long i = 0; i < n; ++i) sum += std::fabs(loadSample(kernel + i));
       return sum <= 32767.0f;
     } else if constexpr (std::is_same_v<S, Pxl8u>) {
       return width >= 16;
@@ -122,7 +122,7 @@ void filterBand(const K* kernel, const Footprint& f, const ScaleRec& sc, const S
       for (int j = f.kh - 1; j >= 0; --j) {
         const S* r = tapRow(y, j);
         for (int i = f.kw - 1; i >= 0; --i) {
-          const K kv = kernel[j * f.kw + i];
+          const K kv = loadSample(kernel + (j * f.kw + i));
           const S* p = r + (f.anchor.x - i) * C;
           if (first)
             for (int s = 0; s < n; ++s) a[s] = product(kv, loadSample(p + s));
@@ -141,7 +141,7 @@ void filterBand(const K* kernel, const Footprint& f, const ScaleRec& sc, const S
           for (int j = f.kh - 1; j >= 0; --j) {
             const S* p = tapRow(y, j) + (x + f.anchor.x) * C + ch;
             for (int i = f.kw - 1; i >= 0; --i, --t) {
-              const A v = product(kernel[j * f.kw + i], loadSample(p - i * C));
+              const A v = product(loadSample(kernel + (j * f.kw + i)), loadSample(p - i * C));
               a = t == last ? v : a + v;
             }
           }
@@ -207,7 +207,7 @@ PxlStatus filterIntAny(const T* src, int ss, T* dst, int ds, PxlSize roi, const 
     Scratch<Pxl32f> taps(n);
     if (!taps.ok()) return pxlStsAlloc;
     const float inv = 1.0f / float(divisor);
-    for (long long i = 0; i < n; ++i) taps.get()[i] = float(kernel[i]) * inv;
+    for (long long i = 0; i < n; ++i) taps.get()[i] = float(loadSample(kernel + i)) * inv;
     return filterFrame<Dr, Pxl32f, T, T, L>(src, ss, dst, ds, roi, taps.get(), f, nullptr);
   }
 }

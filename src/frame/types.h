@@ -46,9 +46,31 @@ inline T loadSample(const T* p) {
   return v;
 }
 template <class T>
-inline void storeSample(T* p, T v) {
+struct SampleOf {
+  using type = T;
+};
+// The value converts to the sample's type, which the pointer alone decides.
+template <class T>
+inline void storeSample(T* p, typename SampleOf<T>::type v) {
   std::memcpy(p, &v, sizeof v);
 }
+
+// A caller's array of per-channel constants (at most four), copied by bytes
+// into the call's own array: the caller may hand it at any address, and
+// every kernel then reads the copy by type. A null pointer stays null, so
+// the member's own pointer check still sees it.
+template <class T, int N = 4>
+class LocalValues {
+ public:
+  explicit LocalValues(const T* p, int n = N) : null_(p == nullptr) {
+    if (p != nullptr) std::memcpy(v_, p, sizeof(T) * std::size_t(n));
+  }
+  const T* get() const { return null_ ? nullptr : v_; }
+
+ private:
+  T v_[N]{};
+  bool null_;
+};
 
 // Row i of an image: steps are bytes and may be zero or negative.
 template <class T>

@@ -73,18 +73,18 @@ Strategy chooseStrategy16(std::int64_t count, const int* nLevels, bool ascending
 template <class V, class Lv>
 inline void countBrute(V x, const Lv* lv, int n, Pxl32s* h) {
   for (int k = 0; k + 1 < n; ++k)
-    if (lv[k] <= x && x < lv[k + 1]) ++h[k];
+    if (loadSample(lv + k) <= x && x < loadSample(lv + (k + 1))) storeSample(h + k, loadSample(h + k) + 1);
 }
 template <class V, class Lv>
 inline void countForward(V x, const Lv* lv, int n, Pxl32s* h) {
-  if (!(lv[0] <= x && x < lv[n - 1])) return;
+  if (!(loadSample(lv) <= x && x < loadSample(lv + (n - 1)))) return;
   int k = 0;
-  while (!(x < lv[k + 1])) ++k;
-  ++h[k];
+  while (!(x < loadSample(lv + (k + 1)))) ++k;
+  storeSample(h + k, loadSample(h + k) + 1);
 }
 template <class V, class Lv>
 inline void countBinary(V x, const Lv* lv, int n, Pxl32s* h) {
-  if (!(lv[0] <= x && x < lv[n - 1])) return;
+  if (!(loadSample(lv) <= x && x < loadSample(lv + (n - 1)))) return;
   int span = n - 1, base = 0;
   while (span > 1) {
     const int half = span >> 1;
@@ -102,10 +102,10 @@ inline void countBinary(V x, const Lv* lv, int n, Pxl32s* h) {
 // an empty or reversed bin sums nothing.
 inline void recalc(const Pxl32s* table, int lo, int hi, const Pxl32s* lv, int n, Pxl32s* h) {
   for (int k = 0; k + 1 < n; ++k) {
-    const int a = std::min(std::max(lv[k], lo), hi), b = std::min(std::max(lv[k + 1], lo), hi);
+    const int a = std::min(std::max(int(loadSample(lv + k)), lo), hi), b = std::min(std::max(int(loadSample(lv + (k + 1))), lo), hi);
     std::uint32_t s = 0;
     for (int v = a; v < b; ++v) s += std::uint32_t(table[v - lo]);
-    h[k] = Pxl32s(s);
+    storeSample(h + k, Pxl32s(s));
   }
 }
 
@@ -116,7 +116,7 @@ PxlStatus countHistogram(const T* src, int step, PxlSize roi, Pxl32s* const* his
   for (int c = 0; c < P; ++c) std::memset(hist[c], 0, sizeof(Pxl32s) * (nLevels[c] - 1));
   bool ascending = true;
   for (int c = 0; c < P; ++c)
-    for (int i = 0; i + 1 < nLevels[c]; ++i) ascending &= levels[c][i] < levels[c][i + 1];
+    for (int i = 0; i + 1 < nLevels[c]; ++i) ascending &= loadSample(levels[c] + i) < loadSample(levels[c] + (i + 1));
   Strategy s;
   if constexpr (std::is_same_v<T, Pxl8u>) {
     s = Strategy::Table;
@@ -223,7 +223,7 @@ PxlStatus histogramRangeC1(const T* src, int step, PxlSize roi, Pxl32s* hist, co
 inline int evenLevels(Pxl32s* lv, int n, Pxl32s lower, Pxl32s upper) {
   const int bins = n - 1, d = upper - lower, q = d / bins;
   int r = d % bins;
-  lv[0] = lower;
+  storeSample(lv, lower);
   for (int i = 0; i < bins; ++i) {
     int add = q;
     if (q >= 0 && r > 0) {
@@ -233,7 +233,7 @@ inline int evenLevels(Pxl32s* lv, int n, Pxl32s lower, Pxl32s upper) {
       --add;
       ++r;
     }
-    lv[i + 1] = lv[i] + add;
+    storeSample(lv + (i + 1), loadSample(lv + i) + add);
   }
   return d % bins;
 }

@@ -116,7 +116,7 @@ void normValue(const T* a, int sa, const T* b, int sb, PxlSize roi, int hint, Px
   }
   Totals<T, L, K> t;
   normTotals<T, L, K>(a, sa, b, sb, roi, hint, t);
-  for (int c = 0; c < processedOf(L); ++c) out[c] = K == Kind::L2 ? std::sqrt(t.get(c)) : t.get(c);
+  for (int c = 0; c < processedOf(L); ++c) storeSample(out + c, K == Kind::L2 ? std::sqrt(t.get(c)) : t.get(c));
 }
 
 template <class T, Lay L, Kind K>
@@ -158,7 +158,7 @@ PxlStatus normRel(const T* a, int sa, const T* b, int sb, PxlSize roi, Pxl64f* v
   for (int c = 0; c < P; ++c) {
     const double n = num.get(c);
     const double q = zero ? n : n / den.get(c);
-    value[c] = K == Kind::L2 ? std::sqrt(q) : q;
+    storeSample(value + c, K == Kind::L2 ? std::sqrt(q) : q);
   }
   return zero ? pxlStsDivByZero : pxlStsOk;
 }

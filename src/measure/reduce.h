@@ -175,7 +175,7 @@ PxlStatus sum(const T* src, int step, PxlSize roi, Pxl64f* out, int hint = 0) {
   if (badSize(roi)) return pxlStsSize;
   Ext s[4];
   sumOf<T, L>(src, step, roi, s, hint);
-  for (int c = 0; c < processedOf(L); ++c) out[c] = oneNaN(double(s[c]));
+  for (int c = 0; c < processedOf(L); ++c) storeSample(out + c, oneNaN(double(s[c])));
   return pxlStsOk;
 }
 
@@ -188,10 +188,10 @@ PxlStatus mean(const T* src, int step, PxlSize roi, Pxl64f* out, int hint = 0) {
   if (PxlStatus st = sum<T, L>(src, step, roi, s, hint)) return st;
   const double n = double(std::int64_t(roi.width) * roi.height);
   if constexpr (L == Lay::C1) {
-    out[0] = s[0] / n;
+    storeSample(out, s[0] / n);
   } else {
     const Ext inv = Ext(1) / Ext(n);
-    for (int c = 0; c < processedOf(L); ++c) out[c] = double(Ext(s[c]) * inv);
+    for (int c = 0; c < processedOf(L); ++c) storeSample(out + c, double(Ext(s[c]) * inv));
   }
   return pxlStsOk;
 }
@@ -259,7 +259,7 @@ void extremeOf(const T* src, int step, PxlSize roi, T* out) {
   T acc[4];
   for (auto& a : acc) a = Extreme<T, Max>::start();
   for (int y = 0; y < roi.height; ++y) rowExtreme<T, L, Max>(rowAt(src, step, y), roi.width, acc);
-  for (int c = 0; c < processedOf(L); ++c) out[c] = acc[c];
+  for (int c = 0; c < processedOf(L); ++c) storeSample(out + c, acc[c]);
 }
 
 inline PxlStatus checkMinMax(PxlSize roi, int step) {
@@ -327,9 +327,9 @@ PxlStatus extremeIndex(const T* src, int step, PxlSize roi, T* value, Pxl32s* ix
     }
   }
   for (int c = 0; c < P; ++c) {
-    value[c] = best[c];
-    ix[c] = bx[c];
-    iy[c] = by[c];
+    storeSample(value + c, best[c]);
+    storeSample(ix + c, bx[c]);
+    storeSample(iy + c, by[c]);
   }
   return pxlStsOk;
 }
@@ -346,7 +346,7 @@ PxlStatus countInRange(const T* src, int step, PxlSize roi, Pxl32s* counts, cons
   if (badSize(roi)) return pxlStsSize;
   constexpr int C = channelsOf(L), P = processedOf(L);
   for (int c = 0; c < P; ++c)
-    if (lower[c] > upper[c]) return pxlStsRangeOrder;
+    if (loadSample(lower + c) > loadSample(upper + c)) return pxlStsRangeOrder;
   std::uint32_t total[4] = {};
   for (int y = 0; y < roi.height; ++y) {
     const T* p = rowAt(src, step, y);
@@ -376,11 +376,11 @@ PxlStatus countInRange(const T* src, int step, PxlSize roi, Pxl32s* counts, cons
       for (int x = 0; x < roi.width; ++x)
         for (int c = 0; c < P; ++c) {
           const T v = loadSample(p + x * C + c);
-          total[c] += (!(v < lower[c]) && v <= upper[c]);
+          total[c] += (!(v < loadSample(lower + c)) && v <= loadSample(upper + c));
         }
     }
   }
-  for (int c = 0; c < P; ++c) counts[c] = Pxl32s(total[c]);
+  for (int c = 0; c < P; ++c) storeSample(counts + c, Pxl32s(total[c]));
   return pxlStsOk;
 }
 

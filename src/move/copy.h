@@ -51,7 +51,7 @@ PxlStatus copyMasked(const T* src, int srcStep, T* dst, int dstStep, PxlSize roi
     const T* s = rowAt(src, srcStep, y);
     T* d = rowAt(dst, dstStep, y);
     maskedRow(rowAt(mask, maskStep, y), roi.width, [s, d](int x) {
-      for (int c = 0; c < used; ++c) d[x * ch + c] = s[x * ch + c];
+      for (int c = 0; c < used; ++c) storeSample(d + (x * ch + c), loadSample(s + (x * ch + c)));
     });
   }
   return pxlStsOk;
@@ -119,7 +119,7 @@ inline void deinterleaveRow(const T* s, T* const* planes, std::ptrdiff_t offset,
   T* p[N];
   for (int c = 0; c < N; ++c) p[c] = reinterpret_cast<T*>(reinterpret_cast<char*>(planes[c]) + offset);
   for (int x = 0; x < width; ++x)
-    for (int c = 0; c < N; ++c) p[c][x] = s[x * N + c];
+    for (int c = 0; c < N; ++c) storeSample(p[c] + x, loadSample(s + (x * N + c)));
 }
 
 template <int N, class T>
@@ -127,7 +127,7 @@ inline void interleaveRow(const T* const* planes, std::ptrdiff_t offset, T* d, i
   const T* p[N];
   for (int c = 0; c < N; ++c) p[c] = reinterpret_cast<const T*>(reinterpret_cast<const char*>(planes[c]) + offset);
   for (int x = 0; x < width; ++x)
-    for (int c = 0; c < N; ++c) d[x * N + c] = p[c][x];
+    for (int c = 0; c < N; ++c) storeSample(d + (x * N + c), loadSample(p[c] + x));
 }
 
 template <class T, Repack R, class S, class D>

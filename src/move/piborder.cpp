@@ -125,7 +125,7 @@ PxlStatus copyConstBorder(const T* src, int srcStep, PxlSize srcRoi, T* dst, int
   if (PxlStatus st = checkBorder(srcRoi, dstRoi, top, left, srcStep, dstStep)) return st;
   // The value as one pixel (AC4: three samples; the fourth is never read).
   T px[P::kCh] = {};
-  for (int c = 0; c < P::kUsed; ++c) px[c] = v[c];
+  for (int c = 0; c < P::kUsed; ++c) px[c] = loadSample(v + c);
   const int sw = srcRoi.width, dw = dstRoi.width;
   for (int y = 0; y < dstRoi.height; ++y) {
     T* d = rowAt(dst, dstStep, y);

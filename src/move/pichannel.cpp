@@ -10,7 +10,10 @@ PxlStatus dupC1C3(const T* src, int srcStep, T* dst, int dstStep, PxlSize roi) {
   for (int y = 0; y < roi.height; ++y) {
     const T* s = rowAt(src, srcStep, y);
     T* d = rowAt(dst, dstStep, y);
-    for (int x = 0; x < roi.width; ++x) d[3 * x] = d[3 * x + 1] = d[3 * x + 2] = s[x];
+    for (int x = 0; x < roi.width; ++x) {
+      const T v = loadSample(s + x);
+      storeSample(d + 3 * x, v), storeSample(d + 3 * x + 1, v), storeSample(d + 3 * x + 2, v);
+    }
   }
   return pxlStsOk;
 }
@@ -36,8 +39,8 @@ void swapRows(const T* src, int srcStep, T* dst, int dstStep, PxlSize roi, const
     const T* s = rowAt(src, srcStep, y);
     T* d = rowAt(dst, dstStep, y);
     for (int x = 0; x < roi.width; ++x) {
-      const T px[3] = {s[x * Ch], s[x * Ch + 1], s[x * Ch + 2]};
-      for (int c = 0; c < 3; ++c) d[x * Ch + c] = px[order[c]];
+      const T px[3] = {loadSample(s + x * Ch), loadSample(s + x * Ch + 1), loadSample(s + x * Ch + 2)};
+      for (int c = 0; c < 3; ++c) storeSample(d + (x * Ch + c), px[order[c]]);
     }
   }
 }

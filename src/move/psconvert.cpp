@@ -80,10 +80,10 @@ PxlStatus convertVectorSfs(const S* src, D* dst, int length, int roundMode, int 
     const X87RoundingScope rounding(nearest ? kX87RoundNear : kX87RoundZero);
     const double factor = powerOfTwo(scale);
     for (int i = 0; i < length; ++i) {
-      double v = src[i] * factor;
+      double v = loadSample(src + i) * factor;
       v = v < 2147483647.0 ? v : 2147483647.0;  // a NaN takes the upper limit
       v = v > -2147483648.0 ? v : -2147483648.0;
-      dst[i] = static_cast<D>(roundByMode(v, nearest));
+      storeSample(dst + i, static_cast<D>(roundByMode(v, nearest)));
     }
   }
   return pxlStsOk;

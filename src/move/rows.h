@@ -143,7 +143,7 @@ namespace pxl::move {
 template <int SS, int DS, int N, class T>
 inline void stridedRow(const T* s, T* d, int width) {
   for (int x = 0; x < width; ++x)
-    for (int c = 0; c < N; ++c) d[x * DS + c] = s[x * SS + c];
+    for (int c = 0; c < N; ++c) storeSample(d + (x * DS + c), loadSample(s + (x * SS + c)));
 }
 
 // Writes pixel x (write(x)) where mask byte x is not zero. The mask is

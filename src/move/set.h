@@ -19,7 +19,7 @@ void fillImage(const T* vals, T* dst, int dstStep, PxlSize roi) {
     for (int y = 0; y < roi.height; ++y) {
       T* d = rowAt(dst, dstStep, y);
       for (int x = 0; x < roi.width; ++x)
-        for (int c = 0; c < 3; ++c) d[x * 4 + c] = vals[c];
+        for (int c = 0; c < 3; ++c) storeSample(d + (x * 4 + c), vals[c]);
     }
   } else {
     const FillPattern<ch * int(sizeof(T))> pat(vals);
@@ -39,13 +39,15 @@ void fillImage(const T* vals, T* dst, int dstStep, PxlSize roi) {
 
 // The values of one pixel: a C1 member's value is passed by value, the
 // others' by pointer (3 for C3 and AC4, 4 for C4).
-template <class T, class V>
+template <class T, class V, int N>
 struct PixelValues {
   const T* p;
   T one;
+  T copy[N];
   explicit PixelValues(V v) {
+    // A caller's array is copied by bytes: it may lie at any address.
     if constexpr (std::is_pointer_v<V>)
-      p = v;
+      p = v == nullptr ? nullptr : (std::memcpy(copy, v, sizeof copy), copy);
     else
       one = v, p = &one;
   }
@@ -55,7 +57,7 @@ struct PixelValues {
 
 template <class T, Lay L, class V>
 PxlStatus setImage(V value, T* dst, int dstStep, PxlSize roi) {
-  const PixelValues<T, V> vals(value);
+  const PixelValues<T, V, processedOf(L)> vals(value);
   if (vals.null() || dst == nullptr) return pxlStsNullPtr;
   if (PxlStatus st = checkShape<Order::NST>(roi, dstStep)) return st;
   fillImage<T, L>(vals.p, dst, dstStep, roi);
@@ -77,14 +79,14 @@ PxlStatus setChannel(T value, T* dst, int dstStep, PxlSize roi) {
   constexpr int ch = channelsOf(L);
   for (int y = 0; y < roi.height; ++y) {
     T* d = rowAt(dst, dstStep, y);
-    for (int x = 0; x < roi.width; ++x) d[x * ch] = value;
+    for (int x = 0; x < roi.width; ++x) storeSample(d + x * ch, value);
   }
   return pxlStsOk;
 }
 
 template <class T, Lay L, class V>
 PxlStatus setMasked(V value, T* dst, int dstStep, PxlSize roi, const Pxl8u* mask, int maskStep) {
-  const PixelValues<T, V> vals(value);
+  const PixelValues<T, V, processedOf(L)> vals(value);
   if (vals.null() || anyNull(dst, mask)) return pxlStsNullPtr;
   if (PxlStatus st = checkShape<Order::NST>(roi, dstStep, maskStep)) return st;
   constexpr int ch = channelsOf(L), used = processedOf(L);
@@ -93,7 +95,7 @@ PxlStatus setMasked(V value, T* dst, int dstStep, PxlSize roi, const Pxl8u* mask
   for (int y = 0; y < roi.height; ++y) {
     T* d = rowAt(dst, dstStep, y);
     maskedRow(rowAt(mask, maskStep, y), roi.width, [d, &px](int x) {
-      for (int c = 0; c < used; ++c) d[x * ch + c] = px[c];
+      for (int c = 0; c < used; ++c) storeSample(d + (x * ch + c), px[c]);
     });
   }
   return pxlStsOk;

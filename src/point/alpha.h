@@ -188,14 +188,14 @@ void alphaLanes(const Operand<T>& o1, const Operand<T>& o2, T* d, int n, Rule ru
   const Operand<T> p1 = o1, p2 = o2;
   auto alphaAt = [&](const Operand<T>& o, int j) -> W {
     if constexpr (F == AlphaFrom::Constant) return o.alpha;
-    else if constexpr (F == AlphaFrom::Pixel) return o.x[(j & ~3) + 3];
-    else if constexpr (F == AlphaFrom::Plane) return o.alphaRow[j];
-    else return o.x[j];
+    else if constexpr (F == AlphaFrom::Pixel) return loadSample(o.x + ((j & ~3) + 3));
+    else if constexpr (F == AlphaFrom::Plane) return loadSample(o.alphaRow + j);
+    else return loadSample(o.x + j);
   };
   auto lane = [&](int j) {
     const bool alphaLane = K == AlphaLanes::All || (K == AlphaLanes::Fourth && j % 4 == 3);
-    d[j] = T(rule(kind, W(p1.x[j]), W(p2.x[j]), alphaAt(p1, j), alphaAt(p2, j),
-                  alphaLane ? AlphaMath<T>::kFull : W(0)));
+    storeSample(d + j, T(rule(kind, W(loadSample(p1.x + j)), W(loadSample(p2.x + j)), alphaAt(p1, j),
+                              alphaAt(p2, j), alphaLane ? AlphaMath<T>::kFull : W(0))));
   };
   int i = 0;
   if constexpr (std::is_same_v<T, Pxl8u>) {

@@ -75,7 +75,8 @@ PxlStatus compareImages(const T* a, int aStep, const T* b, int bStep, Pxl8u* d, 
 
 template <class T, Lay L>
 PxlStatus compareConst(const T* s, int sStep, ValueArg<T, L> value, Pxl8u* d, int dStep, PxlSize roi, Pxl32s rel) {
-  const T* v = valuesOf<T, L>(value);
+  const auto vals = valuesOf<T, L>(value);
+  const T* v = vals.get();
   if (anyNull(s, v, d)) return pxlStsNullPtr;
   if (PxlStatus st = checkShape<Order::NTS>(roi, sStep, dStep)) return st;
   const auto k = constsOf<T, L>(v);
@@ -109,7 +110,8 @@ PxlStatus compareEps(const T* a, int aStep, const T* b, int bStep, Pxl8u* d, int
 template <class T, Lay L>
 PxlStatus compareEpsConst(const T* s, int sStep, ValueArg<T, L> value, Pxl8u* d, int dStep, PxlSize roi,
                           Pxl32f eps) {
-  const T* v = valuesOf<T, L>(value);
+  const auto vals = valuesOf<T, L>(value);
+  const T* v = vals.get();
   if (anyNull(s, v, d)) return pxlStsNullPtr;
   if (PxlStatus st = checkShape<Order::NTS>(roi, sStep, dStep)) return st;
   if (!(eps >= 0.0f)) return pxlStsEpsilon;

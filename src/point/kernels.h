@@ -37,7 +37,7 @@ struct Row {
     if constexpr (kIsVector<V>)
       return load<V>(p + i);
     else
-      return p[i];
+      return loadSample(p + i);
   }
 };
 
@@ -72,12 +72,14 @@ Consts<T, channelsOf(L)> constsOf(const T* vals) {
 template <class T, Lay L>
 using ValueArg = std::conditional_t<L == Lay::C1, T, const T*>;
 
+// The constants copied into the call (see LocalValues): valuesOf(v).get()
+// is a pointer valid to the end of the full expression.
 template <class T, Lay L>
-inline const T* valuesOf(const ValueArg<T, L>& v) {
+inline LocalValues<T> valuesOf(const ValueArg<T, L>& v) {
   if constexpr (L == Lay::C1)
-    return &v;
+    return LocalValues<T>(&v, 1);
   else
-    return v;
+    return LocalValues<T>(v, processedOf(L));
 }
 
 // d[i] = f(s[i], operands at i...) for n samples laid out with period P.
@@ -94,7 +96,7 @@ void mapRow(const T* s, T* d, int n, F&& f, const Ops&... ops) {
   static_assert(!Alpha || K % 4 == 0, "a register holds whole pixels");
   int i = 0, phase = 0;
   const auto scalar = [&] {
-    if (!Alpha || i % 4 != 3) d[i] = static_cast<T>(f(s[i], ops.template at<T>(i, phase)...));
+    if (!Alpha || i % 4 != 3) storeSample(d + i, static_cast<T>(f(loadSample(s + i), ops.template at<T>(i, phase)...)));
     if (++phase == P) phase = 0;
   };
   bool stream = Stream;
@@ -158,7 +160,7 @@ void maskPixels(const T* s, Pxl8u* d, int width, F&& f, const Ops&... ops) {
     bool all = true;
     for (int c = 0; c < Used; ++c) {
       const int i = x * Ch + c;
-      all = all && bool(f(s[i], ops.template at<T>(i, c)...));
+      all = all && bool(f(loadSample(s + i), ops.template at<T>(i, c)...));
     }
     d[x] = all ? 255 : 0;
   };

@@ -78,12 +78,12 @@ PxlStatus logicConstMember(const T* s, int sStep, const T* vals, T* d, int dStep
 
 template <class Op, class T, Lay L>
 PxlStatus logicConst(const T* src, int srcStep, ValueArg<T, L> value, T* dst, int dstStep, PxlSize roi) {
-  return logicConstMember<Op, T, L>(src, srcStep, valuesOf<T, L>(value), dst, dstStep, roi);
+  return logicConstMember<Op, T, L>(src, srcStep, valuesOf<T, L>(value).get(), dst, dstStep, roi);
 }
 
 template <class Op, class T, Lay L>
 PxlStatus logicConst(ValueArg<T, L> value, T* srcDst, int srcDstStep, PxlSize roi) {
-  return logicConstMember<Op, T, L>(srcDst, srcDstStep, valuesOf<T, L>(value), srcDst, srcDstStep, roi);
+  return logicConstMember<Op, T, L>(srcDst, srcDstStep, valuesOf<T, L>(value).get(), srcDst, srcDstStep, roi);
 }
 
 // Not is Xor with every bit set.
@@ -144,8 +144,10 @@ PxlStatus shiftUniform(const T* s, int sStep, Pxl32u n, T* d, int dStep, PxlSize
 }
 
 template <bool Left, class T, Lay L>
-PxlStatus shiftMember(const T* s, int sStep, const Pxl32u* counts, T* d, int dStep, PxlSize roi) {
+PxlStatus shiftMember(const T* s, int sStep, const Pxl32u* countsIn, T* d, int dStep, PxlSize roi) {
   using Sh = Shift<Left, T>;
+  const LocalValues<Pxl32u> local(countsIn, processedOf(L));
+  const Pxl32u* counts = local.get();
   if (anyNull(s, counts, d)) return pxlStsNullPtr;
   if (PxlStatus st = checkShape<Order::NTS>(roi, sStep, dStep)) return st;
   if (std::all_of(counts, counts + processedOf(L), [counts](Pxl32u n) { return n == counts[0]; })) {

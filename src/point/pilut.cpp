@@ -48,7 +48,7 @@ inline void eachSample(const T* src, int srcStep, T* dst, int dstStep, PxlSize r
     const T* s = rowAt(src, srcStep, y);
     T* d = rowAt(dst, dstStep, y);
     for (int x = 0; x < roi.width; ++x)
-      for (int c = 0; c < P; ++c) d[x * C + c] = f(c, s[x * C + c]);
+      for (int c = 0; c < P; ++c) storeSample(d + (x * C + c), f(c, loadSample(s + (x * C + c))));
   }
 }
 
@@ -187,8 +187,8 @@ PxlStatus lutPalette(const S* src, int srcStep, D* dst, int dstStep, PxlSize roi
     const S* s = rowAt(src, srcStep, y);
     D* d = rowAt(dst, dstStep, y);
     for (int x = 0; x < roi.width; ++x) {
-      const D* e = table + std::size_t(s[x] & mask) * N;
-      for (int j = 0; j < N; ++j) d[x * N + j] = e[j];
+      const D* e = table + std::size_t(loadSample(s + x) & mask) * N;
+      for (int j = 0; j < N; ++j) storeSample(d + (x * N + j), loadSample(e + j));
     }
   }
   return pxlStsOk;

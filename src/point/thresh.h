@@ -43,7 +43,7 @@ PxlStatus clipMember(const T* s, int sStep, T* d, int dStep, PxlSize roi, const 
 
 template <class T, Lay L>
 PxlStatus threshold(const T* src, int srcStep, T* dst, int dstStep, PxlSize roi, ValueArg<T, L> t, Pxl32s rel) {
-  return clipMember<T, L>(src, srcStep, dst, dstStep, roi, valuesOf<T, L>(t), rel);
+  return clipMember<T, L>(src, srcStep, dst, dstStep, roi, valuesOf<T, L>(t).get(), rel);
 }
 template <class T, Lay L>
 PxlStatus threshold(T* srcDst, int srcDstStep, PxlSize roi, ValueArg<T, L> t, Pxl32s rel) {
@@ -77,7 +77,7 @@ PxlStatus valueMember(const T* s, int sStep, T* d, int dStep, PxlSize roi, const
 template <class T, Lay L>
 PxlStatus thresholdVal(const T* src, int srcStep, T* dst, int dstStep, PxlSize roi, ValueArg<T, L> t,
                        ValueArg<T, L> v, Pxl32s rel) {
-  return valueMember<T, L>(src, srcStep, dst, dstStep, roi, valuesOf<T, L>(t), valuesOf<T, L>(v), rel);
+  return valueMember<T, L>(src, srcStep, dst, dstStep, roi, valuesOf<T, L>(t).get(), valuesOf<T, L>(v).get(), rel);
 }
 template <class T, Lay L>
 PxlStatus thresholdVal(T* srcDst, int srcDstStep, PxlSize roi, ValueArg<T, L> t, ValueArg<T, L> v, Pxl32s rel) {
@@ -121,8 +121,8 @@ PxlStatus bothMember(const T* s, int sStep, T* d, int dStep, PxlSize roi, const 
 template <class T, Lay L>
 PxlStatus thresholdBoth(const T* src, int srcStep, T* dst, int dstStep, PxlSize roi, ValueArg<T, L> tLT,
                         ValueArg<T, L> vLT, ValueArg<T, L> tGT, ValueArg<T, L> vGT) {
-  return bothMember<T, L>(src, srcStep, dst, dstStep, roi, valuesOf<T, L>(tLT), valuesOf<T, L>(vLT),
-                          valuesOf<T, L>(tGT), valuesOf<T, L>(vGT));
+  return bothMember<T, L>(src, srcStep, dst, dstStep, roi, valuesOf<T, L>(tLT).get(), valuesOf<T, L>(vLT).get(),
+                          valuesOf<T, L>(tGT).get(), valuesOf<T, L>(vGT).get());
 }
 template <class T, Lay L>
 PxlStatus thresholdBoth(T* srcDst, int srcDstStep, PxlSize roi, ValueArg<T, L> tLT, ValueArg<T, L> vLT,

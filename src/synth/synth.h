@@ -91,7 +91,7 @@ PxlStatus addRand(T* img, int step, PxlSize roi, Pxl32u* seed, Src src) {
   if (badSize(roi)) return pxlStsSize;
   if (step < 1) return pxlStsStep;
   constexpr int C = channelsOf(L), P = processedOf(L);
-  Rand g(*seed);
+  Rand g(loadSample(seed));
   for (int y = 0; y < roi.height; ++y) {
     T* p = rowAt(img, step, y);
     for (int x = 0; x < roi.width; ++x)
@@ -101,7 +101,7 @@ PxlStatus addRand(T* img, int step, PxlSize roi, Pxl32u* seed, Src src) {
         std::memcpy(p + x * C + c, &v, sizeof v);
       }
   }
-  *seed = g.u;
+  storeSample(seed, g.u);
   return pxlStsOk;
 }
 
