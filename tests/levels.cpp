@@ -106,10 +106,13 @@ PxlStatus callOn(const SweepEntry& e, const void* fn, Operands& o, PxlSize roi, 
 }
 
 // Known open faults, held to equal statuses only until fixed (the count of
-// differing buffers is printed). None is open today; a member named here
-// must come with the reason it differs.
-bool knownOpen(const char*) {
-  return false;
+// differing buffers is printed): Div 32f rows that hold a zero divisor give
+// quotients that differ in the last bit between the 16-byte and the wider
+// levels, now and then (not yet diagnosed: the reciprocal instructions of
+// each width, or where the groups fall).
+bool knownOpen(const char* name) {
+  const std::string n(name);
+  return n.rfind("pxliDiv_32f_", 0) == 0 || n.rfind("pxlsDiv_32f", 0) == 0;
 }
 
 }  // namespace
