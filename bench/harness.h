@@ -117,5 +117,6 @@ void registerPointAlpha();
 void registerMoveBorder();
 void registerMoveConvert();
 void registerPointLut();
+void registerFilter2();
 
 }  // namespace pxlbench

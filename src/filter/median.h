@@ -91,6 +91,7 @@ void networkRow(const T* src, int ss, T* res, int width, int y) {
   T v[25][B];
   for (int s0 = 0; s0 < n; s0 += B) {
     const int lanes = n - s0 < B ? n - s0 : B;
+    if (lanes < B) std::memset(v, 0, sizeof v);  // the idle lanes of the last block hold defined values
     for (int k = 0; k < N; ++k) {
       if (lanes == B)
         std::memcpy(v[k], rows[k] + s0, sizeof v[k]);
