@@ -111,6 +111,48 @@ void networkRow(const T* src, int ss, T* res, int width, int y) {
   }
 }
 
+template <class T>
+inline void sort2(T& a, T& b) {
+  const T x = a;
+  a = b < x ? b : x;
+  b = b < x ? x : b;
+}
+template <class T>
+inline T med3(T a, T b, T c) {
+  sort2(a, b);
+  b = c < b ? c : b;
+  return a < b ? b : a;
+}
+
+// 3x3 square: the median of nine is the median of (largest of the three
+// column minima, median of the column medians, smallest of the column
+// maxima), with each column of three sorted once and shared by the three
+// outputs that contain it. Plain loops over contiguous samples.
+template <class T, Lay L>
+void square3Row(const T* src, int ss, T* res, int width, int y, T* __restrict lo, T* __restrict mid,
+                T* __restrict hi) {
+  constexpr int C = channelsOf(L);
+  const int n = (width + 2) * C;
+  const T* r0 = rowAt(src, ss, y - 1) - C;
+  const T* r1 = rowAt(src, ss, y) - C;
+  const T* r2 = rowAt(src, ss, y + 1) - C;
+  for (int s = 0; s < n; ++s) {
+    const T a = loadSample(r0 + s), b = loadSample(r1 + s), c = loadSample(r2 + s);
+    const T mn = b < a ? b : a, mx = b < a ? a : b;
+    lo[s] = c < mn ? c : mn;
+    hi[s] = mx < c ? c : mx;
+    const T m2 = c < mx ? c : mx;
+    mid[s] = m2 < mn ? mn : m2;
+  }
+  for (int s = 0; s < width * C; ++s) {
+    T a = lo[s], b = lo[s + C], c = lo[s + 2 * C];
+    const T l = a < b ? (b < c ? c : b) : (a < c ? c : a);
+    a = hi[s], b = hi[s + C], c = hi[s + 2 * C];
+    const T h = b < a ? (c < b ? c : b) : (c < a ? c : a);
+    res[s] = med3(l, med3(mid[s], mid[s + C], mid[s + 2 * C]), h);
+  }
+}
+
 template <Shape Sh, int R, class T, Lay L>
 void networkImage(const T* src, int ss, T* dst, int ds, PxlSize roi, bool fork) {
   rowsShapeA(roi.height, fork, [&](int y) {
@@ -118,7 +160,12 @@ void networkImage(const T* src, int ss, T* dst, int ds, PxlSize roi, bool fork) 
     const int chunk = 4096 / channelsOf(L);
     for (int x0 = 0; x0 < roi.width; x0 += chunk) {
       const int w = roi.width - x0 < chunk ? roi.width - x0 : chunk;
-      networkRow<Sh, R, T, L>(src + x0 * channelsOf(L), ss, res, w, y);
+      if constexpr (Sh == Shape::Square && R == 1) {
+        T cols[3][4096 + 8];
+        square3Row<T, L>(src + x0 * channelsOf(L), ss, res, w, y, cols[0], cols[1], cols[2]);
+      } else {
+        networkRow<Sh, R, T, L>(src + x0 * channelsOf(L), ss, res, w, y);
+      }
       storePixels<L>(rowAt(dst, ds, y) + x0 * channelsOf(L), res, w);
     }
   });
