@@ -119,5 +119,6 @@ void registerMoveConvert();
 void registerPointLut();
 void registerFilter();
 void registerMeasure();
+void registerFilter2();
 
 }  // namespace pxlbench

@@ -74,6 +74,7 @@ int main(int argc, char** argv) {
   pxlbench::registerPointLut();
   pxlbench::registerFilter();
   pxlbench::registerMeasure();
+  pxlbench::registerFilter2();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

@@ -948,6 +948,84 @@ PXL_API PxlStatus PXL_CALL pxliMulCScale_16u_AC4R(const Pxl16u* src, int srcStep
 PXL_API PxlStatus PXL_CALL pxliMulCScale_16u_AC4IR(const Pxl16u* value, Pxl16u* srcDst,
     int srcDstStep, PxlSize roi);
 
+/* ---- pxliFilterBox: 8u: by area and layout, truncated (C1, C4), rounded (C3, AC4), nearest /9 at 3x3 */
+PXL_API PxlStatus PXL_CALL pxliFilterBox_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_16s_C1IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_16s_C3IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_16s_C4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_16s_AC4IR(Pxl16s* srcDst, int srcDstStep, PxlSize roi,
+    PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_32f_C4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterBox_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    PxlSize maskSize, PxlPoint anchor);
+
+/* ---- pxliSumWindowRow: float sums of maskSize samples */
+PXL_API PxlStatus PXL_CALL pxliSumWindowRow_8u32f_C1R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s maskSize, Pxl32s anchor);
+PXL_API PxlStatus PXL_CALL pxliSumWindowRow_8u32f_C3R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s maskSize, Pxl32s anchor);
+PXL_API PxlStatus PXL_CALL pxliSumWindowRow_8u32f_C4R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s maskSize, Pxl32s anchor);
+PXL_API PxlStatus PXL_CALL pxliSumWindowRow_16s32f_C1R(const Pxl16s* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s maskSize, Pxl32s anchor);
+PXL_API PxlStatus PXL_CALL pxliSumWindowRow_16s32f_C3R(const Pxl16s* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s maskSize, Pxl32s anchor);
+PXL_API PxlStatus PXL_CALL pxliSumWindowRow_16s32f_C4R(const Pxl16s* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s maskSize, Pxl32s anchor);
+
+/* ---- pxliSumWindowColumn: float sums of maskSize samples */
+PXL_API PxlStatus PXL_CALL pxliSumWindowColumn_8u32f_C1R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s maskSize, Pxl32s anchor);
+PXL_API PxlStatus PXL_CALL pxliSumWindowColumn_8u32f_C3R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s maskSize, Pxl32s anchor);
+PXL_API PxlStatus PXL_CALL pxliSumWindowColumn_8u32f_C4R(const Pxl8u* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, Pxl32s maskSize, Pxl32s anchor);
+PXL_API PxlStatus PXL_CALL pxliSumWindowColumn_16s32f_C1R(const Pxl16s* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, Pxl32s maskSize, Pxl32s anchor);
+PXL_API PxlStatus PXL_CALL pxliSumWindowColumn_16s32f_C3R(const Pxl16s* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, Pxl32s maskSize, Pxl32s anchor);
+PXL_API PxlStatus PXL_CALL pxliSumWindowColumn_16s32f_C4R(const Pxl16s* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, Pxl32s maskSize, Pxl32s anchor);
+
 /* ---- pxliFilterPrewittHoriz: row below minus row above */
 PXL_API PxlStatus PXL_CALL pxliFilterPrewittHoriz_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
     int dstStep, PxlSize roi);
@@ -1446,6 +1524,256 @@ PXL_API PxlStatus PXL_CALL pxliFilterColumn32f_16s_C4R(const Pxl16s* src, int sr
     int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
 PXL_API PxlStatus PXL_CALL pxliFilterColumn32f_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
     int dstStep, PxlSize roi, const Pxl32f* kernel, Pxl32s kernelLength, Pxl32s yAnchor);
+
+/* ---- pxliFilterMedian: odd width and height, any anchor */
+PXL_API PxlStatus PXL_CALL pxliFilterMedian_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMedian_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMedian_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMedian_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMedian_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMedian_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMedian_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMedian_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+
+/* ---- pxliFilterMedianHoriz: mask 31 or 51 */
+PXL_API PxlStatus PXL_CALL pxliFilterMedianHoriz_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianHoriz_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianHoriz_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianHoriz_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianHoriz_16s_C1R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianHoriz_16s_C3R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianHoriz_16s_C4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianHoriz_16s_AC4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterMedianVert: mask 13 or 15 */
+PXL_API PxlStatus PXL_CALL pxliFilterMedianVert_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianVert_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianVert_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianVert_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianVert_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianVert_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianVert_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianVert_16s_AC4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterMedianCross: mask 33 or 55 */
+PXL_API PxlStatus PXL_CALL pxliFilterMedianCross_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianCross_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianCross_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianCross_16s_C1R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianCross_16s_C3R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianCross_16s_AC4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliFilterMedianColor: vector median, L1 distance, ties to the first in column order */
+PXL_API PxlStatus PXL_CALL pxliFilterMedianColor_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianColor_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianColor_16s_C3R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianColor_16s_AC4R(const Pxl16s* src, int srcStep,
+    Pxl16s* dst, int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianColor_32f_C3R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, Pxl32s mask);
+PXL_API PxlStatus PXL_CALL pxliFilterMedianColor_32f_AC4R(const Pxl32f* src, int srcStep,
+    Pxl32f* dst, int dstStep, PxlSize roi, Pxl32s mask);
+
+/* ---- pxliErode: over the non-zero cells of the mask */
+PXL_API PxlStatus PXL_CALL pxliErode_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliErode_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliErode_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliErode_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliErode_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliErode_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliErode_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliErode_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+
+/* ---- pxliErode */
+PXL_API PxlStatus PXL_CALL pxliErode_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliErode_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliErode_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliErode_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliErode_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliErode_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+
+/* ---- pxliErode3x3: all nine cells */
+PXL_API PxlStatus PXL_CALL pxliErode3x3_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_32f_C4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliErode3x3_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi);
+
+/* ---- pxliDilate: over the non-zero cells of the mask */
+PXL_API PxlStatus PXL_CALL pxliDilate_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliDilate_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliDilate_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst, int dstStep,
+    PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliDilate_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliDilate_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliDilate_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliDilate_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliDilate_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+
+/* ---- pxliDilate */
+PXL_API PxlStatus PXL_CALL pxliDilate_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliDilate_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliDilate_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliDilate_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliDilate_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliDilate_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi,
+    const Pxl8u* mask, PxlSize maskSize, PxlPoint anchor);
+
+/* ---- pxliDilate3x3: all nine cells */
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_8u_C1IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_8u_C3IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_8u_C4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_8u_AC4IR(Pxl8u* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_32f_C1IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_32f_C3IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_32f_C4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi);
+PXL_API PxlStatus PXL_CALL pxliDilate3x3_32f_AC4IR(Pxl32f* srcDst, int srcDstStep, PxlSize roi);
+
+/* ---- pxliFilterMin: over the whole rectangle */
+PXL_API PxlStatus PXL_CALL pxliFilterMin_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMin_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMin_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMin_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMin_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMin_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMin_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMin_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMin_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMin_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMin_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMin_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+
+/* ---- pxliFilterMax: over the whole rectangle */
+PXL_API PxlStatus PXL_CALL pxliFilterMax_8u_C1R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMax_8u_C3R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMax_8u_C4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMax_8u_AC4R(const Pxl8u* src, int srcStep, Pxl8u* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMax_16s_C1R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMax_16s_C3R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMax_16s_C4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMax_16s_AC4R(const Pxl16s* src, int srcStep, Pxl16s* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMax_32f_C1R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMax_32f_C3R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMax_32f_C4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
+PXL_API PxlStatus PXL_CALL pxliFilterMax_32f_AC4R(const Pxl32f* src, int srcStep, Pxl32f* dst,
+    int dstStep, PxlSize roi, PxlSize maskSize, PxlPoint anchor);
 
 /* ---- pxliMalloc: image with rows on 32-byte boundaries; the step goes to *stepBytes */
 PXL_API Pxl8u* PXL_CALL pxliMalloc_8u_C1(int widthPixels, int heightPixels, int* stepBytes);

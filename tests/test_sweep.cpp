@@ -41,6 +41,11 @@ std::vector<Case> casesFor(const SweepEntry& e) {
     cs.push_back({"null and length 0", [](SweepArgs& a) { a.img[0] = nullptr, a.length = 0; }, pxlStsNullPtr});
     return cs;
   }
+  if (order == "N") {
+    // Sizes and steps are not examined at all: only null pointers fail.
+    cs.push_back({"null and width 0", [](SweepArgs& a) { a.img[0] = nullptr, a.roi.width = 0; }, pxlStsNullPtr});
+    return cs;
+  }
   for (int n : {0, -1}) {
     cs.push_back({"width " + std::to_string(n), [n](SweepArgs& a) { a.roi.width = n; }, pxlStsSize});
     cs.push_back({"height " + std::to_string(n), [n](SweepArgs& a) { a.roi.height = n; }, pxlStsSize});

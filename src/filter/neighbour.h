@@ -112,4 +112,36 @@ inline float floatOfBits(std::uint32_t bits) {
 }
 
 
+// The computed samples of one row to the destination: every sample, or in
+// AC4 the three colour samples of each pixel, so that alpha stays as it was.
+template <Lay L, class T>
+inline void storePixels(T* out, const T* res, int width) {
+  if constexpr (L == Lay::AC4) {
+    for (int x = 0; x < width; ++x)
+      for (int ch = 0; ch < 3; ++ch) storeSample(out + x * 4 + ch, res[x * 4 + ch]);
+  } else {
+    std::memcpy(static_cast<void*>(out), res, std::size_t(width) * channelsOf(L) * sizeof(T));
+  }
+}
+
+// In place: output row y reads source rows down to y + lag, so its result may
+// only replace the image's row once the output row lag rows further down has
+// been computed. Results wait in a ring of lag + 1 rows; compute(y, row) fills
+// a whole row of width pixels and must read the image before it returns. The
+// ring is taken before the first row, so a refused allocation writes nothing.
+template <Lay L, class T, class F>
+inline PxlStatus ringInPlace(T* img, int step, PxlSize roi, int lag, F&& compute) {
+  const long long slot = ((long long)roi.width * channelsOf(L) * sizeof(T) + 15) & ~15LL;
+  Scratch<unsigned char> ring(slot * (lag + 1LL));
+  if (!ring.ok()) return pxlStsAlloc;
+  auto at = [&](int y) { return reinterpret_cast<T*>(ring.get() + slot * (y % (lag + 1))); };
+  for (int y = 0; y < roi.height; ++y) {
+    compute(y, at(y));
+    if (y >= lag) storePixels<L>(rowAt(img, step, y - lag), at(y - lag), roi.width);
+  }
+  for (int y = roi.height - lag < 0 ? 0 : roi.height - lag; y < roi.height; ++y)
+    storePixels<L>(rowAt(img, step, y), at(y), roi.width);
+  return pxlStsOk;
+}
+
 }  // namespace pxl::filter
