@@ -117,5 +117,6 @@ void registerPointAlpha();
 void registerMoveBorder();
 void registerMoveConvert();
 void registerPointLut();
+void registerGeom();
 
 }  // namespace pxlbench

@@ -72,6 +72,7 @@ int main(int argc, char** argv) {
   pxlbench::registerPoint();
   pxlbench::registerPointAlpha();
   pxlbench::registerPointLut();
+  pxlbench::registerGeom();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

@@ -41,9 +41,9 @@ struct Level {
   int* threads;
 };
 
-// Operand buffers: three images and four planes, each with margins of whole
+// Operand buffers: four images and four planes, each with margins of whole
 // rows and bytes around its ROI (some members read around it).
-constexpr int kBuffers = 7, kMarginRows = 6, kMarginBytes = 256, kMaxPixelBytes = 32;
+constexpr int kBuffers = 8, kMarginRows = 6, kMarginBytes = 256, kMaxPixelBytes = 32;
 
 struct Operands {
   std::vector<std::vector<std::uint8_t>> buf;
@@ -88,8 +88,8 @@ Operands makeOperands(std::mt19937& rng, PxlSize roi) {
 PxlStatus callOn(const SweepEntry& e, const void* fn, Operands& o, PxlSize roi, int scale) {
   SweepArgs a{};
   void* planes[4];
-  for (int p = 0; p < 4; ++p) planes[p] = o.buf[3 + p].data() + o.offset[3 + p];
-  for (int i = 0; i < 3; ++i) {
+  for (int p = 0; p < 4; ++p) planes[p] = o.buf[4 + p].data() + o.offset[4 + p];
+  for (int i = 0; i < 4; ++i) {
     a.img[i] = (e.planar & (1 << i)) ? static_cast<void*>(a.planes) : o.buf[i].data() + o.offset[i];
     a.step[i] = o.step[i];
   }
