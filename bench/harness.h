@@ -120,5 +120,6 @@ void registerPointLut();
 void registerFilter();
 void registerMeasure();
 void registerFilter2();
+void registerGeom();
 
 }  // namespace pxlbench

@@ -75,6 +75,7 @@ int main(int argc, char** argv) {
   pxlbench::registerFilter();
   pxlbench::registerMeasure();
   pxlbench::registerFilter2();
+  pxlbench::registerGeom();
 
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

@@ -154,6 +154,56 @@ static int filter2Tour(const char* dir, const Pxl8u* a, int s1, struct Timing* t
     return ok;
 }
 
+/* Geometry: the colour image resized to half and to one and a half times
+ * its size in every mode (supersampling only shrinks), turned by 30 degrees
+ * about its centre with smoothed edges, and seen through a lens by remap. */
+static int geomTour(const char* dir, const Pxl8u* color, int sc, struct Timing* t, int* nt) {
+    static const struct { int mode; const char* name; } modes[] = {
+        {pxlInterNearest, "nearest"}, {pxlInterLinear, "linear"}, {pxlInterCubic, "cubic"},
+        {pxlInterLanczos, "lanczos"}, {pxlInterSuper, "super"}};
+    const PxlRect all = {0, 0, W, H};
+    const PxlSize big = {W * 3 / 2, H * 3 / 2};
+    int so, sx, sy, ok = 1;
+    char name[64];
+    Pxl8u* out = pxliMalloc_8u_C3(big.width, big.height, &so);
+    Pxl32f* mx = pxliMalloc_32f_C1(W, H, &sx);
+    Pxl32f* my = pxliMalloc_32f_C1(W, H, &sy);
+    double t0 = nowMs();
+    for (int i = 0; i < 5; ++i) {
+        const PxlSize half = {W / 2, H / 2};
+        ok &= pxliResize_8u_C3R(color, (PxlSize){W, H}, sc, all, out, so, half, 0.5, 0.5, modes[i].mode) == pxlStsOk;
+        snprintf(name, sizeof name, "resize_half_%s", modes[i].name);
+        writePnmSized(dir, name, out, so, 3, half.width, half.height);
+        if (modes[i].mode == pxlInterSuper) continue;
+        ok &= pxliResize_8u_C3R(color, (PxlSize){W, H}, sc, all, out, so, big, 1.5, 1.5, modes[i].mode) == pxlStsOk;
+        snprintf(name, sizeof name, "resize_1.5x_%s", modes[i].name);
+        writePnmSized(dir, name, out, so, 3, big.width, big.height);
+    }
+    t[(*nt)++] = (struct Timing){"Resize x9", nowMs() - t0};
+    memset(out, 0, (size_t)so * H);
+    t0 = nowMs();
+    ok &= pxliRotateCenter_8u_C3R(color, (PxlSize){W, H}, sc, all, out, so, all, 30, W / 2.0, H / 2.0,
+                                  pxlInterCubic | pxlInterSmoothEdge) == pxlStsOk;
+    t[(*nt)++] = (struct Timing){"RotateCenter30", nowMs() - t0};
+    writePnm(dir, "rotated_30", out, so, 3);
+    /* A magnifying lens of radius R at the centre: a point at distance r
+     * samples the source at distance r * (r / R)^0.5. */
+    for (int y = 0; y < H; ++y)
+        for (int x = 0; x < W; ++x) {
+            const double dx = x - W / 2.0, dy = y - H / 2.0, r = hypot(dx, dy), R = H * 0.45;
+            const double k = r < R ? sqrt(r / R) : 1.0;
+            mx[(size_t)y * sx / 4 + x] = (Pxl32f)(W / 2.0 + dx * k);
+            my[(size_t)y * sy / 4 + x] = (Pxl32f)(H / 2.0 + dy * k);
+        }
+    t0 = nowMs();
+    ok &= pxliRemap_8u_C3R(color, (PxlSize){W, H}, sc, all, mx, sx, my, sy, out, so, (PxlSize){W, H},
+                           pxlInterLinear) == pxlStsOk;
+    t[(*nt)++] = (struct Timing){"Remap lens", nowMs() - t0};
+    writePnm(dir, "remap_lens", out, so, 3);
+    pxliFree(out); pxliFree(mx); pxliFree(my);
+    return ok;
+}
+
 /* Measures of one image: sum, mean, extrema with their positions and norms
  * are printed; its histogram is drawn as a picture, and a copy gets the
  * library's seeded Gaussian noise. */
@@ -290,7 +340,7 @@ static int transformTour(const char* dir, const Pxl8u* img, int step) {
 
 int main(int argc, char** argv) {
     const char* dir = argc > 1 ? argv[1] : ".";
-    struct Timing t[24];
+    struct Timing t[28];
     int nt = 0, ok = 1, s1, s2, s3, sc, s16, sf;
     PxlSize roi = {W, H};
     double t0;
@@ -417,6 +467,8 @@ int main(int argc, char** argv) {
 
     ok &= filterTour(dir, a, s1, t, &nt);
     ok &= filter2Tour(dir, a, s1, t, &nt);
+
+    ok &= geomTour(dir, color, sc, t, &nt);
 
     ok &= measureDemo(dir, a, s1);
 

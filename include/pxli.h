@@ -1838,6 +1838,342 @@ PXL_API PxlStatus PXL_CALL pxliGetShearQuad(PxlRect srcRoi, double (*quad)[2], d
 PXL_API PxlStatus PXL_CALL pxliGetShearBound(PxlRect srcRoi, double (*bound)[2], double xShear,
     double yShear, double xShift, double yShift);
 
+/* ---- pxliWarpAffine: dst over the image of srcRoi through the forward transform coeffs, by spans; modes 1, 2, 4, or-ed with pxlInterSmoothEdge */
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_8u_C3R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_8u_C4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_8u_AC4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_8u_P3R(const Pxl8u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_8u_P4R(const Pxl8u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_16u_C1R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_16u_C3R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_16u_C4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_16u_AC4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_16u_P3R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_16u_P4R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_32f_C1R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_32f_C3R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_32f_C4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_32f_AC4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_32f_P3R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffine_32f_P4R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+
+/* ---- pxliWarpAffineBack: the same with coeffs mapping dst to src; the smoothing flag has no effect */
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_8u_C3R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_8u_C4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_8u_AC4R(const Pxl8u* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, const double (*coeffs)[3],
+    int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_8u_P3R(const Pxl8u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_8u_P4R(const Pxl8u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_16u_C1R(const Pxl16u* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_16u_C3R(const Pxl16u* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_16u_C4R(const Pxl16u* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_16u_AC4R(const Pxl16u* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_16u_P3R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_16u_P4R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_32f_C1R(const Pxl32f* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_32f_C3R(const Pxl32f* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_32f_C4R(const Pxl32f* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_32f_AC4R(const Pxl32f* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_32f_P3R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineBack_32f_P4R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlRect dstRoi,
+    const double (*coeffs)[3], int interpolation);
+
+/* ---- pxliWarpAffineQuad: srcQuad of src onto dstQuad of dst (a fourth vertex off the parallelogram gives +28) */
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const double (*srcQuad)[2], Pxl8u* dst, int dstStep, PxlRect dstRoi,
+    const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_8u_C3R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const double (*srcQuad)[2], Pxl8u* dst, int dstStep, PxlRect dstRoi,
+    const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_8u_C4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, const double (*srcQuad)[2], Pxl8u* dst, int dstStep, PxlRect dstRoi,
+    const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_8u_AC4R(const Pxl8u* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl8u* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_8u_P3R(const Pxl8u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl8u* const* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_8u_P4R(const Pxl8u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl8u* const* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_16u_C1R(const Pxl16u* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl16u* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_16u_C3R(const Pxl16u* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl16u* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_16u_C4R(const Pxl16u* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl16u* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_16u_AC4R(const Pxl16u* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl16u* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_16u_P3R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl16u* const* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_16u_P4R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl16u* const* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_32f_C1R(const Pxl32f* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl32f* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_32f_C3R(const Pxl32f* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl32f* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_32f_C4R(const Pxl32f* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl32f* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_32f_AC4R(const Pxl32f* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl32f* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_32f_P3R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl32f* const* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+PXL_API PxlStatus PXL_CALL pxliWarpAffineQuad_32f_P4R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, const double (*srcQuad)[2], Pxl32f* const* dst, int dstStep,
+    PxlRect dstRoi, const double (*dstQuad)[2], int interpolation);
+
+/* ---- pxliRotate: rotation by angle degrees (counter-clockwise on screen) then the shift; right angles with whole shifts move pixels exactly */
+PXL_API PxlStatus PXL_CALL pxliRotate_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_8u_C3R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_8u_C4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_8u_AC4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_8u_P3R(const Pxl8u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_8u_P4R(const Pxl8u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_16u_C1R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_16u_C3R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_16u_C4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_16u_AC4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_16u_P3R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlRect dstRoi, double angle,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_16u_P4R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlRect dstRoi, double angle,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_32f_C1R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_32f_C3R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_32f_C4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_32f_AC4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, double angle, double xShift,
+    double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_32f_P3R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlRect dstRoi, double angle,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotate_32f_P4R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlRect dstRoi, double angle,
+    double xShift, double yShift, int interpolation);
+
+/* ---- pxliRotateCenter: rotation by angle degrees about (xCenter, yCenter) */
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, double angle, double xCenter,
+    double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_8u_C3R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, double angle, double xCenter,
+    double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_8u_C4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, double angle, double xCenter,
+    double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_8u_AC4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, double angle, double xCenter,
+    double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_8u_P3R(const Pxl8u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlRect dstRoi, double angle,
+    double xCenter, double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_8u_P4R(const Pxl8u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlRect dstRoi, double angle,
+    double xCenter, double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_16u_C1R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, double angle, double xCenter,
+    double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_16u_C3R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, double angle, double xCenter,
+    double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_16u_C4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, double angle, double xCenter,
+    double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_16u_AC4R(const Pxl16u* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, double angle,
+    double xCenter, double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_16u_P3R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlRect dstRoi, double angle,
+    double xCenter, double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_16u_P4R(const Pxl16u* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlRect dstRoi, double angle,
+    double xCenter, double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_32f_C1R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, double angle, double xCenter,
+    double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_32f_C3R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, double angle, double xCenter,
+    double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_32f_C4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, double angle, double xCenter,
+    double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_32f_AC4R(const Pxl32f* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, double angle,
+    double xCenter, double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_32f_P3R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlRect dstRoi, double angle,
+    double xCenter, double yCenter, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliRotateCenter_32f_P4R(const Pxl32f* const* src, PxlSize srcSize,
+    int srcStep, PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlRect dstRoi, double angle,
+    double xCenter, double yCenter, int interpolation);
+
+/* ---- pxliShear: x + xShear * y + xShift, yShear * x + y + yShift */
+PXL_API PxlStatus PXL_CALL pxliShear_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_8u_C3R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_8u_C4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_8u_AC4R(const Pxl8u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_8u_P3R(const Pxl8u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_8u_P4R(const Pxl8u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl8u* const* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_16u_C1R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_16u_C3R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_16u_C4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_16u_AC4R(const Pxl16u* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_16u_P3R(const Pxl16u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_16u_P4R(const Pxl16u* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl16u* const* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_32f_C1R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_32f_C3R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_32f_C4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_32f_AC4R(const Pxl32f* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_32f_P3R(const Pxl32f* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+PXL_API PxlStatus PXL_CALL pxliShear_32f_P4R(const Pxl32f* const* src, PxlSize srcSize, int srcStep,
+    PxlRect srcRoi, Pxl32f* const* dst, int dstStep, PxlRect dstRoi, double xShear, double yShear,
+    double xShift, double yShift, int interpolation);
+
 /* ---- pxliRemap: dst(x, y) = src at (xMap(x, y), yMap(x, y)); positions outside the source ROI leave dst as it was; modes 1, 2, 4 */
 PXL_API PxlStatus PXL_CALL pxliRemap_8u_C1R(const Pxl8u* src, PxlSize srcSize, int srcStep,
     PxlRect srcRoi, const Pxl32f* xMap, int xMapStep, const Pxl32f* yMap, int yMapStep, Pxl8u* dst,

@@ -41,11 +41,11 @@ struct Level {
   int* threads;
 };
 
-// Operand buffers: three images and four planes for each of them (a planar
+// Operand buffers: four images and four planes for each of them (a planar
 // member's images never share planes: a destination that overlaps a source
 // gives results that depend on the order of the work), each with margins of
 // whole rows and bytes around its ROI (some members read around it).
-constexpr int kBuffers = 15, kMarginRows = 6, kMarginBytes = 256, kMaxPixelBytes = 32;
+constexpr int kBuffers = 20, kMarginRows = 6, kMarginBytes = 256, kMaxPixelBytes = 32;
 
 struct Operands {
   std::vector<std::vector<std::uint8_t>> buf;
@@ -89,10 +89,10 @@ Operands makeOperands(std::mt19937& rng, PxlSize roi) {
 
 PxlStatus callOn(const SweepEntry& e, const void* fn, Operands& o, PxlSize roi, int scale) {
   SweepArgs a{};
-  static thread_local void* planes[3][4];
-  for (int i = 0; i < 3; ++i)
-    for (int p = 0; p < 4; ++p) planes[i][p] = o.buf[3 + 4 * i + p].data() + o.offset[3 + 4 * i + p];
-  for (int i = 0; i < 3; ++i) {
+  static thread_local void* planes[4][4];
+  for (int i = 0; i < 4; ++i)
+    for (int p = 0; p < 4; ++p) planes[i][p] = o.buf[4 + 4 * i + p].data() + o.offset[4 + 4 * i + p];
+  for (int i = 0; i < 4; ++i) {
     a.img[i] = (e.planar & (1 << i)) ? static_cast<void*>(planes[i]) : o.buf[i].data() + o.offset[i];
     a.step[i] = o.step[i];
   }

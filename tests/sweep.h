@@ -9,8 +9,8 @@
 #include "pxls.h"
 
 struct SweepArgs {
-  void* img[3];
-  int step[3];
+  void* img[4];
+  int step[4];
   PxlSize roi;
   int length;
   int scale;
@@ -21,7 +21,7 @@ struct SweepArgs {
 
 struct SweepEntry {
   const char* name;
-  const char* order;  // "NS", "NST" or "NTS"
+  const char* order;  // "NS", "NST" or "NTS"; a trailing P: plane pointers after the steps
   bool folds;         // looks at the width only, then hands over to C1
   bool vector;        // pxls: a length instead of steps and roi
   int images;         // image or vector pointers, in argument order
@@ -49,6 +49,12 @@ inline T sweepValue(const void* p) {
 static const int kSweepLevelCounts[4] = {2, 2, 2, 2};
 static const Pxl32s kSweepLowerLevels[4] = {0, 0, 0, 0};
 static const Pxl32s kSweepUpperLevels[4] = {256, 256, 256, 256};
+
+// Transforms the geometry members accept on any sweep ROI: a slight turn
+// that keeps the picture over the region, and a parallelogram inside the
+// smallest ROI (the same on both sides: the identity).
+inline const double kSweepAffine[2][3] = {{1.0, 0.125, 0.25}, {-0.125, 1.0, 0.5}};
+inline const double kSweepQuad[4][2] = {{0.5, 0.5}, {5.5, 1.0}, {6.0, 3.0}, {1.0, 2.5}};
 
 // A program that loads the library by path defines this as null first.
 #ifndef PXL_SWEEP_FN

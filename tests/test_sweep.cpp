@@ -27,13 +27,14 @@ std::vector<Case> casesFor(const SweepEntry& e) {
   const std::string order = e.order;
   const bool steps = order.find('T') != std::string::npos;
   const bool stepsFirst = order == "NTS";
+  const bool planesLast = order.find('P') != std::string::npos;
   std::vector<Case> cs;
   for (int i = 0; i < e.images; ++i)
     cs.push_back({"null pointer " + std::to_string(i), [i](SweepArgs& a) { a.img[i] = nullptr; }, pxlStsNullPtr});
   if (e.planar != 0) {
     cs.push_back({"null plane", [](SweepArgs& a) { a.planes[1] = nullptr; }, pxlStsNullPtr});
     cs.push_back({"null plane and width 0", [](SweepArgs& a) { a.planes[2] = nullptr, a.roi.width = 0; },
-                  e.folds ? pxlStsSize : pxlStsNullPtr});
+                  e.folds || planesLast ? pxlStsSize : pxlStsNullPtr});
   }
   if (e.valuePtr) cs.push_back({"null value", [](SweepArgs& a) { a.value = nullptr; }, pxlStsNullPtr});
   if (e.vector) {
@@ -77,7 +78,7 @@ std::vector<Case> casesFor(const SweepEntry& e) {
 TEST(ArgumentSweep, EveryMemberReportsInItsOrderAndWritesNothing) {
   constexpr int kW = 16, kH = 6, kPix = 32, kPad = 32;
   std::vector<std::unique_ptr<TestImage>> imgs;
-  for (int i = 0; i < 7; ++i)  // three images, then four planes
+  for (int i = 0; i < 8; ++i)  // four images, then four planes
     imgs.push_back(std::make_unique<TestImage>(kW, kH, kPix, kPad, kPad, Place::Back, 11 + i));
   alignas(16) unsigned char values[64];
   for (int i = 0; i < 64; ++i) values[i] = static_cast<unsigned char>(i + 1);  // distinct constants
@@ -86,14 +87,14 @@ TEST(ArgumentSweep, EveryMemberReportsInItsOrderAndWritesNothing) {
   for (const SweepEntry& e : kSweepTable) {
     for (const Case& c : casesFor(e)) {
       SweepArgs a{};
-      for (int i = 0; i < 3; ++i) a.img[i] = imgs[i]->roi(), a.step[i] = imgs[i]->step();
+      for (int i = 0; i < 4; ++i) a.img[i] = imgs[i]->roi(), a.step[i] = imgs[i]->step();
       a.roi = {8, 4};
       a.length = 8;
       a.scale = 0;
       a.value = values;
-      for (int p = 0; p < 4; ++p) a.planes[p] = imgs[3 + p]->roi();
+      for (int p = 0; p < 4; ++p) a.planes[p] = imgs[4 + p]->roi();
       a.order[0] = 2, a.order[1] = 1, a.order[2] = 0;
-      for (int i = 0; i < 3; ++i)
+      for (int i = 0; i < 4; ++i)
         if (e.planar & (1 << i)) a.img[i] = a.planes;
       c.apply(a);
       std::vector<std::vector<std::uint8_t>> before;
@@ -118,7 +119,7 @@ TEST(ArgumentSweep, EveryMemberReportsInItsOrderAndWritesNothing) {
 // pointer that is not on its natural boundary.
 TEST(ArgumentSweep, OddAddressesAndStepsGiveTheAlignedResult) {
   constexpr int kSide = 70, kPix = 64, kW = kSide + 4, kRows = kSide + 6;  // room for a border
-  constexpr int kStep = kW * kPix, kImages = 7;
+  constexpr int kStep = kW * kPix, kImages = 8;
   std::mt19937 rng(77);
   std::vector<std::uint8_t> init(std::size_t(kImages) * kRows * kStep);
   // No zero bytes: a zero float divisor makes Div 32f treat its aligned
@@ -152,14 +153,14 @@ TEST(ArgumentSweep, OddAddressesAndStepsGiveTheAlignedResult) {
   };
   auto call = [&](const SweepEntry& e, Layout& l) {
     SweepArgs a{};
-    for (int i = 0; i < 3; ++i) a.img[i] = l.img[i], a.step[i] = l.step;
+    for (int i = 0; i < 4; ++i) a.img[i] = l.img[i], a.step[i] = l.step;
     a.roi = {kSide, kSide};
     a.length = (kStep - 2 * kPix) / 16;  // within one row for any sample size
     a.value = l.value;
-    for (int p = 0; p < 4; ++p) a.planes[p] = l.img[3 + p];
+    for (int p = 0; p < 4; ++p) a.planes[p] = l.img[4 + p];
     a.order[0] = 2, a.order[1] = 1, a.order[2] = 0;
     void* planes[4] = {a.planes[0], a.planes[1], a.planes[2], a.planes[3]};
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 4; ++i)
       if (e.planar & (1 << i)) a.img[i] = planes;
     return e.call(a);
   };

@@ -1,4 +1,4 @@
-// Affine family: the geometry queries.
-#include "geom/affine.h"
+// Affine family: the geometry queries and the warps.
+#include "geom/warp.h"
 
 #include "shims/geom/piwarpa.inc"

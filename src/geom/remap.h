@@ -48,7 +48,7 @@ PxlStatus remap(const T* const* src, PxlSize srcSize, int srcStep, PxlRect srcRo
       const bool linear16 = std::is_same_v<T, Pxl16u> && mode == kLinear;
       if (linear16 ? (bitsOf(x) < bitsOf(fx0) || bitsOf(y) < bitsOf(fy0) || bitsOf(x) > bitsOf(fx1) ||
                       bitsOf(y) > bitsOf(fy1))
-                   : (x < fx0 || y < fy0 || x > fx1 || y > fy1))
+                   : !(x >= fx0 && y >= fy0 && x <= fx1 && y <= fy1))  // NaN is outside too
         continue;
       for (int p = 0; p < kPlanes; ++p) {
         const Src<T, Px> s{src[p], srcStep};

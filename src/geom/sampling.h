@@ -53,7 +53,9 @@ struct CubicTable {
     }
   }
   void weights(float t, int* out) const {
-    const int k = int(std::nearbyint(double(t) * 512.0));
+    // A warp's position may lie up to a pixel beyond the outer taps; the
+    // weights there are those of the nearest node.
+    const int k = std::clamp(int(std::nearbyint(double(std::clamp(t, 0.0f, 3.0f)) * 512.0)), 0, 1536);
     out[0] = w[2 * k];
     out[1] = w[2 * k + 1];
     out[2] = w[2 * (1536 - k) + 1];

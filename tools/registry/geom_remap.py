@@ -15,7 +15,14 @@ def entry(t, f):
             ('const Pxl32f*', 'xMap'), ('int', 'xMapStep'), ('const Pxl32f*', 'yMap'), ('int', 'yMapStep'),
             (dst, 'dst'), ('int', 'dstStep'), ('PxlSize', 'dstRoiSize'), ('int', 'interpolation')]
     impl = f'pxl::geom::remapP<{T}, {planes}>' if planes else f'pxl::geom::remapC<{T}, {px}, {nc}>'
-    return (f'pxliRemap_{t}_{f}R', 'PxlStatus', args, f'{impl}({", ".join(n for _, n in args)})')
+    # Checks: null pointers, sizes, mode, steps, then the planes ('P').
+    return (f'pxliRemap_{t}_{f}R', 'PxlStatus', args, f'{impl}({", ".join(n for _, n in args)})', 'NSTP',
+            SWEEP)
+
+
+# argument name -> value the bad-argument sweep passes (the maps are images)
+SWEEP = {'srcSize': 'a.roi', 'srcRoi': 'PxlRect{0, 0, a.roi.width, a.roi.height}', 'dstRoiSize': 'a.roi',
+         'interpolation': '2'}
 
 
 FAMILIES = [

@@ -17,7 +17,13 @@ def entry(t, f):
             ('double', 'yFactor'), ('int', 'interpolation')]
     impl = f'pxl::geom::resizeP<{T}, {planes}>' if planes else f'pxl::geom::resizeC<{T}, {px}, {nc}>'
     call = f'{impl}({", ".join(n for _, n in args)})'
-    return (f'pxliResize_{t}_{f}R', 'PxlStatus', args, call)
+    # Checks: null pointers (planes with them), sizes; steps are not examined.
+    return (f'pxliResize_{t}_{f}R', 'PxlStatus', args, call, 'NS', SWEEP)
+
+
+# argument name -> value the bad-argument sweep passes
+SWEEP = {'srcSize': 'a.roi', 'srcRoi': 'PxlRect{0, 0, a.roi.width, a.roi.height}', 'dstRoiSize': 'a.roi',
+         'xFactor': '1.0', 'yFactor': '1.0', 'interpolation': '2'}
 
 
 FAMILIES = [
