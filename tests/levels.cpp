@@ -66,9 +66,15 @@ std::uint32_t special(std::mt19937& rng) {
   return rng();
 }
 
-Operands makeOperands(std::mt19937& rng, PxlSize roi) {
+// Plane buffers are made only for a planar member: filling them for every
+// call would cost more than the calls.
+Operands makeOperands(std::mt19937& rng, PxlSize roi, bool planar) {
   Operands o;
   for (int i = 0; i < kBuffers; ++i) {
+    if (i >= 4 && !planar) {
+      o.buf.emplace_back(), o.step[i] = o.step[0], o.offset[i] = 0;
+      continue;
+    }
     o.step[i] = roi.width * kMaxPixelBytes + 2 * kMarginBytes + int(rng() % 8);
     // As many rows as the ROI is wide too: a transposing member's
     // destination has them.
@@ -91,7 +97,7 @@ PxlStatus callOn(const SweepEntry& e, const void* fn, Operands& o, PxlSize roi, 
   SweepArgs a{};
   static thread_local void* planes[4][4];
   for (int i = 0; i < 4; ++i)
-    for (int p = 0; p < 4; ++p) planes[i][p] = o.buf[4 + 4 * i + p].data() + o.offset[4 + 4 * i + p];
+    for (int p = 0; p < 4; ++p) planes[i][p] = o.buf[4 + 4 * i + p].empty() ? nullptr : o.buf[4 + 4 * i + p].data() + o.offset[4 + 4 * i + p];
   for (int i = 0; i < 4; ++i) {
     a.img[i] = (e.planar & (1 << i)) ? static_cast<void*>(planes[i]) : o.buf[i].data() + o.offset[i];
     a.step[i] = o.step[i];
@@ -165,7 +171,7 @@ int main(int argc, char** argv) {
       const PxlSize roi{e.vector ? width * (1 + int(rng() % 3)) : width, e.vector ? 1 : 1 + int(rng() % 4)};
       const int scale = kScales[rng() % (sizeof kScales / sizeof kScales[0])];
       const int threads = 1 + int(rng() % 3);
-      const Operands start = makeOperands(rng, roi);
+      const Operands start = makeOperands(rng, roi, e.planar != 0);
       Operands first;
       PxlStatus firstStatus = pxlStsOk;
       for (std::size_t k = 0; k < levels.size(); ++k) {
