@@ -142,8 +142,9 @@ TEST(FFT2D, ChannelLayoutsAndIntegerForms) {
   // back with the scale that undoes 1/2 and the W*H of the unscaled pair
   ASSERT_EQ(pxliDFTInv_PackToR_32s8u_C3RSfs(spec.data(), 12 * W, img2.data(), 3 * W, q, 4, nullptr), pxlStsOk);
   for (int i = 0; i < 3 * W * H; ++i) EXPECT_NEAR(img2[i], img[i] * double(W * H) / 32, 1.0);
+  // (A plan from InitAlloc is gone after Free: only a plan in the caller's
+  // memory can be shown to refuse a second use.)
   EXPECT_EQ(pxliDFTFree_R_32s(q), pxlStsOk);
-  EXPECT_EQ(pxliDFTFree_R_32s(q), pxlStsSpecMismatch);
   pxliDFTFree_R_32f(fs);
   pxliDFTFree_R_32f(s);
 }
