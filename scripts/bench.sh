@@ -7,7 +7,10 @@
 #                           builds every level and measures the one the loader picks here
 #   PXL_BENCH_MIN_TIME      seconds per repetition of each benchmark (default 0.1)
 #   PXL_BENCH_REPETITIONS   repetitions within one run of the suite (default 3)
-#   PXL_BENCH_RUNS          runs of the whole suite; the table shows the median (default 5)
+#   PXL_BENCH_RUNS          runs of the whole suite at the level the loader picks; the table
+#                           shows the median (default 3)
+#   PXL_BENCH_LEVEL_RUNS    runs at each other level this processor runs (default 1; 0 measures
+#                           the loader's level alone)
 #   PXL_BENCH_QUIET_WAIT    at most this many seconds to wait for an idle machine (default 300)
 #   PXL_BENCH_FILTER        regular expression of the benchmarks to run (default all)
 #   PXL_BENCH_OUT           the table to write (default BENCHMARKS.md)
@@ -23,7 +26,8 @@ isa=${PXL_ISA:-}
 out=${PXL_BENCH_OUT:-BENCHMARKS.md}
 min_time=${PXL_BENCH_MIN_TIME:-0.1}
 reps=${PXL_BENCH_REPETITIONS:-3}
-runs=${PXL_BENCH_RUNS:-5}
+runs=${PXL_BENCH_RUNS:-3}
+level_runs=${PXL_BENCH_LEVEL_RUNS:-1}
 quiet_wait=${PXL_BENCH_QUIET_WAIT:-300}
 filter=${PXL_BENCH_FILTER:-.}
 build=build-bench${isa:+-$isa}
@@ -43,7 +47,10 @@ if ((${#missing[@]})); then
 fi
 
 # ---------------------------------------------------------------- build
-cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=Release -DPXL_ISA="$isa" \
+# Objects are shared with the test builds through ccache where present.
+launcher=()
+command -v ccache >/dev/null 2>&1 && launcher=(-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+cmake -S . -B "$build" -DCMAKE_BUILD_TYPE=Release -DPXL_ISA="$isa" "${launcher[@]}" \
   -DPXL_BUILD_BENCH=ON -DPXL_BUILD_TESTS=OFF -DPXL_BUILD_EXAMPLES=OFF >/dev/null
 cmake --build "$build" -j"$(nproc)" --target pxl_bench
 
@@ -87,21 +94,55 @@ while (($(busy_percent) > 10 && waited < quiet_wait)); do
   waited=$((waited + 5))
 done
 
+# The levels to measure. Every level's file sits in the build tree as it is
+# installed (the baseline in lib/, the others in lib/glibc-hwcaps/<level>/),
+# and the loader's --glibc-hwcaps-mask chooses among them; a level this
+# processor cannot run falls back to a lower one, and is then left out.
+bench=("$build/bench/pxl_bench")
+loader=/lib64/ld-linux-x86-64.so.2
+level_of() {  # the level the loader gives pxl_bench under mask $1 (no mask: its own choice)
+  local mask=()
+  [ "$#" -eq 0 ] || mask=(--glibc-hwcaps-mask "$1")
+  "$loader" "${mask[@]}" "${bench[@]}" --benchmark_filter='^Bandwidth/memset/64MiB/t1/' --benchmark_min_time=0.001 \
+    2>&1 | sed -n 's/^pxl_isa: //p' | head -1
+}
+picked=$(level_of)
+levels=("$picked")
+if [ -z "$isa" ] && [ -x "$loader" ] && ((level_runs > 0)); then
+  for l in x86-64-v4 x86-64-v3 baseline; do
+    [ "$l" = "$picked" ] && continue
+    mask=$l
+    [ "$l" = baseline ] && mask=none
+    [ "$(level_of "$mask")" = "$l" ] && levels+=("$l")
+  done
+fi
+echo "bench.sh: the loader picks $picked; measuring ${levels[*]}" >&2
+
 hz=$(getconf CLK_TCK)
 children_cpu_now
 own0=$children_cpu
 read -r busy0 _ steal0 < <(cpu_jiffies)
 start=$(date +%s.%N)
 jsons=()
+# Rounds of every level in turn, so that the machine's drift falls on all of
+# them alike; the loader's level runs in every round, the others in the first
+# level_runs rounds.
 for ((r = 1; r <= runs; r++)); do
-  jsons+=("$build/pxl_bench.$r.json")
-  echo "bench.sh: run $r of $runs" >&2
-  "$build/bench/pxl_bench" \
-    --benchmark_filter="$filter" \
-    --benchmark_min_time="$min_time" \
-    --benchmark_repetitions="$reps" \
-    --benchmark_report_aggregates_only=true \
-    --benchmark_out="${jsons[-1]}" --benchmark_out_format=json
+  for l in "${levels[@]}"; do
+    mask=()
+    if [ "$l" != "$picked" ]; then
+      ((r <= level_runs)) || continue
+      mask=("$loader" --glibc-hwcaps-mask "$([ "$l" = baseline ] && echo none || echo "$l")")
+    fi
+    jsons+=("$build/pxl_bench.$l.$r.json")
+    echo "bench.sh: run $r of $runs, level $l" >&2
+    "${mask[@]}" "${bench[@]}" \
+      --benchmark_filter="$filter" \
+      --benchmark_min_time="$min_time" \
+      --benchmark_repetitions="$reps" \
+      --benchmark_report_aggregates_only=true \
+      --benchmark_out="${jsons[-1]}" --benchmark_out_format=json >/dev/null
+  done
 done
 end=$(date +%s.%N)
 read -r busy1 _ steal1 < <(cpu_jiffies)
@@ -118,4 +159,5 @@ awk -v b0="$busy0" -v b1="$busy1" -v st0="$steal0" -v st1="$steal1" -v hz="$hz" 
 # ---------------------------------------------------------------- table
 command="${isa:+PXL_ISA=$isa }scripts/bench.sh"
 [ "$out" = BENCHMARKS.md ] || command="PXL_BENCH_OUT=$out $command"
-python3 scripts/bench_table.py "${jsons[@]}" --out "$out" --command "$command" --run-stats "$stats"
+python3 scripts/bench_table.py "${jsons[@]}" --loader-level "$picked" --out "$out" --command "$command" \
+  --run-stats "$stats"

@@ -13,8 +13,12 @@ drift together. So a rate is the median over the runs, while a ratio (to
 OpenCV, or to memcpy) is taken within each run first and then the median of
 those is shown.
 
-Usage: bench_table.py RESULT.json [RESULT.json ...] [--out BENCHMARKS.md]
-                      [--command CMD] [--run-stats FILE]
+Runs of several instruction levels may be given (each JSON names the level
+of the library file it ran); every level gets its own columns, and the
+level the dynamic loader picks on this machine comes first.
+
+Usage: bench_table.py RESULT.json [RESULT.json ...] [--loader-level LEVEL]
+                      [--out BENCHMARKS.md] [--command CMD] [--run-stats FILE]
 """
 
 import argparse
@@ -89,9 +93,6 @@ class Results:
 
     def __init__(self, paths):
         loaded = [load_run(p) for p in paths]
-        levels = {c.get("pxl_isa") for c, _ in loaded}
-        if len(levels) > 1:
-            sys.exit(f"bench_table.py: runs of different instruction levels {sorted(levels)} cannot be merged")
         self.context = loaded[0][0]
         self.nruns = len(loaded)
         self.per_run = [runs for _, runs in loaded]
@@ -151,9 +152,24 @@ def fmt_ratio(x):
     return "-" if x is None else f"{x:.2f}"
 
 
+# Assumed where the machine reports no sensible last-level cache (some
+# virtual machines report none, or a figure of hundreds of MiB).
+ASSUMED_LLC = 32 << 20
+
+
 def last_level_cache(context):
+    """The last-level cache in bytes, and whether the machine reported it."""
     sizes = [c.get("size", 0) for c in context.get("caches", [])]
-    return max(sizes) if sizes else 0
+    if sizes and 0 < max(sizes) <= (256 << 20):
+        return max(sizes), True
+    try:
+        out = subprocess.run(["getconf", "LEVEL3_CACHE_SIZE"], capture_output=True, text=True, check=True)
+        size = int(out.stdout.strip() or 0)
+        if 0 < size <= (256 << 20):
+            return size, True
+    except (OSError, ValueError, subprocess.CalledProcessError):
+        pass
+    return ASSUMED_LLC, False
 
 
 def main():
@@ -162,9 +178,20 @@ def main():
     ap.add_argument("--out", default="BENCHMARKS.md")
     ap.add_argument("--command", default="scripts/bench.sh")
     ap.add_argument("--run-stats", help="key=value lines written by scripts/bench.sh")
+    ap.add_argument("--loader-level", help="the level the loader picks here (default: that of the first run)")
     args = ap.parse_args()
 
-    res = Results(args.json)
+    # The runs of each level; the loader's level first, then the others from
+    # the widest down.
+    by_level = OrderedDict()
+    for path in args.json:
+        with open(path) as f:
+            by_level.setdefault(json.load(f)["context"].get("pxl_isa", "?"), []).append(path)
+    loader = args.loader_level if args.loader_level in by_level else next(iter(by_level))
+    rank = {"x86-64-v4": 0, "x86-64-v3": 1, "x86-64-v2": 2, "baseline": 3}
+    level_names = [loader] + sorted((l for l in by_level if l != loader), key=lambda l: rank.get(l, 9))
+    levels = OrderedDict((l, Results(by_level[l])) for l in level_names)
+    res = levels[loader]
     context = res.context
     stats = {}
     if args.run_stats and os.path.exists(args.run_stats):
@@ -174,7 +201,8 @@ def main():
                     k, v = line.strip().split("=", 1)
                     stats[k] = v
     cpu = lscpu()
-    llc = last_level_cache(context)
+    llc, llc_known = last_level_cache(context)
+    llc_text = f"{llc // (1 << 20)} MiB" + ("" if llc_known else " (assumed: the machine reports no sensible figure)")
 
     # Reference bandwidth: memcpy's per run and thread count, for the fractions.
     copy_name = {}
@@ -208,55 +236,65 @@ def main():
         if key not in keys:
             keys.append(key)
 
+    def ratio_of(r, lib, cv):
+        """Median over the runs of r of the ratio within each run, the ratios, and the noise mark."""
+        lib_runs = r.entries(lib) if lib else [None] * r.nruns
+        cv_runs = r.entries(cv) if cv else [None] * r.nruns
+        ratios = [a["items"] / b["items"] for a, b in zip(lib_runs, cv_runs)
+                  if a and b and a.get("items") and b.get("items")]
+        if len(ratios) > 1:
+            noisy = rel_range(ratios) > NOISY_RATIO_RANGE
+        else:
+            noisy = any(x is not None and x.get("cv", 0) > NOISY_CV for x in lib_runs + cv_runs)
+        return median(ratios), ratios, noisy
+
     notes = OrderedDict()
     slower = []
+    slower_at = OrderedDict((l, 0) for l in level_names[1:])
     noisy_rows = 0
     above_copy = 0
     ratio_ranges = []
     lines = []
+    level_heads = "".join(f" | `{l}` Mpixel/s | `{l}` / OpenCV" for l in level_names)
     for fam, keys in families.items():
         lines.append(f"### {fam}\n")
-        lines.append("| Member | Arguments | Size | Threads | Library Mpixel/s | OpenCV Mpixel/s "
-                     "| Library / OpenCV | Fraction of copy bandwidth | Same output |")
-        lines.append("|---|---|---|---|---:|---:|---:|---:|---|")
+        lines.append(f"| Member | Arguments | Size | Threads | OpenCV Mpixel/s{level_heads} "
+                     "| Fraction of copy bandwidth | Same output |")
+        lines.append("|---|---|---|---|---:" + "|---:|---:" * len(level_names) + "|---:|---|")
         for key in keys:
             _, member, variant, w, h, t = key
             p = pairs[key]
             lib, cv = p.get("lib"), p.get("cv")
-            lib_rate = res.rate(lib, "items") if lib else None
             cv_rate = res.rate(cv, "items") if cv else None
-            for n in (lib, cv):
-                if n:
-                    rate_ranges.append(rel_range([x["items"] for x in res.entries(n) if x]))
-
-            # Ratios within each run, then their median.
-            lib_runs = res.entries(lib) if lib else [None] * res.nruns
-            cv_runs = res.entries(cv) if cv else [None] * res.nruns
-            ratios = [a["items"] / b["items"] for a, b in zip(lib_runs, cv_runs)
-                      if a and b and a.get("items") and b.get("items")]
-            ratio = median(ratios)
-            if len(ratios) > 1:
-                ratio_ranges.append(rel_range(ratios))
-                noisy = rel_range(ratios) > NOISY_RATIO_RANGE
-            else:
-                noisy = any(x is not None and x.get("cv", 0) > NOISY_CV for x in lib_runs + cv_runs)
-            noisy_rows += noisy
+            cells = []
+            for l, r in levels.items():
+                lib_rate = r.rate(lib, "items") if lib else None
+                for n in (lib, cv):
+                    if n:
+                        rate_ranges.append(rel_range([x["items"] for x in r.entries(n) if x]))
+                ratio, ratios, noisy = ratio_of(r, lib, cv)
+                if len(ratios) > 1:
+                    ratio_ranges.append(rel_range(ratios))
+                if l == loader:
+                    noisy_rows += noisy
+                    if ratio is not None and ratio < 1:
+                        slower.append((member, variant, w, h, t, ratio, sum(x < 1 for x in ratios), len(ratios)))
+                elif ratio is not None and ratio < 1:
+                    slower_at[l] += 1
+                cells.append(f"{fmt_rate(lib_rate)} | {fmt_ratio(ratio)}{' *' if noisy else ''}")
 
             frac = "-"
             bytes_per_call = int(p["meta"]["bytes"])
             if lib and llc and bytes_per_call >= llc and t in copy_name:
-                fr = [a["bytes"] / c["bytes"] for a, c in zip(lib_runs, res.entries(copy_name[t]))
+                fr = [a["bytes"] / c["bytes"] for a, c in zip(res.entries(lib), res.entries(copy_name[t]))
                       if a and c and a.get("bytes") and c.get("bytes")]
                 if fr:
                     frac = f"{median(fr):.2f}"
                     above_copy += median(fr) > 1
 
-            mark = " *" if noisy else ""
             same = res.any_entry(lib or cv)["meta"].get("same", "n/a")
-            lines.append(f"| `{member}` | {variant or '-'} | {w}x{h} | {t} | {fmt_rate(lib_rate)} "
-                         f"| {fmt_rate(cv_rate)} | {fmt_ratio(ratio)}{mark} | {frac} | {same} |")
-            if ratio is not None and ratio < 1:
-                slower.append((member, variant, w, h, t, ratio, sum(r < 1 for r in ratios), len(ratios)))
+            lines.append(f"| `{member}` | {variant or '-'} | {w}x{h} | {t} | {fmt_rate(cv_rate)} | "
+                         f"{' | '.join(cells)} | {frac} | {same} |")
             if p["meta"].get("cv"):
                 notes[(member, variant)] = p["meta"]["cv"]
         lines.append("")
@@ -274,17 +312,23 @@ def main():
     sockets = cpu.get("Socket(s)", "1")
     cpus = cpu.get("CPU(s)", str(context.get("num_cpus", "?")))
     out.append(f"- Machine: {model}, {cpus} logical CPUs ({cores} cores per socket, {sockets} socket(s)), "
-               f"{context.get('mhz_per_cpu', '?')} MHz; last-level cache {llc // (1 << 20)} MiB; a virtual "
+               f"{context.get('mhz_per_cpu', '?')} MHz; last-level cache {llc_text}; a virtual "
                "machine")
-    out.append(f"- Library: {context.get('pxl_version', '?')}, revision {git_revision()}, the file of "
-               f"instruction level `{context.get('pxl_isa', '?')}`, the one the dynamic loader picked on this machine")
+    others = ", ".join(f"`{l}`" for l in level_names[1:])
+    out.append(f"- Library: {context.get('pxl_version', '?')}, revision {git_revision()}. The dynamic loader "
+               f"picks the file of instruction level `{loader}` on this machine; its columns come first"
+               + (f", then those of {others} (the same suite, that level's file chosen with the loader's "
+                  "`--glibc-hwcaps-mask`)." if others else "."))
     out.append(f"- OpenCV: {context.get('opencv_version', '?')}, baseline {context.get('opencv_baseline', '?')}, "
                f"code paths picked at run time among {context.get('opencv_dispatch', '?')}; threads: "
                f"{context.get('opencv_parallel', '?')}")
     reps = next((e.get("reps", 1) for n in res.names for e in res.entries(n) if e), 1)
     min_time = stats.get("min_time", "?")
+    if len(levels) > 1:
+        out.append(f"- Runs of the whole suite: " + ", ".join(f"{r.nruns} at `{l}`" for l, r in levels.items())
+                   + "; they took turns, level after level.")
     if res.nruns > 1:
-        out.append(f"- {res.nruns} runs of the whole suite, each benchmark the median of {reps} repetitions of "
+        out.append(f"- {res.nruns} runs of the whole suite at `{loader}`, each benchmark the median of {reps} repetitions of "
                    f"at least {min_time} s; the library and OpenCV on the same case run back to back. Rates "
                    "are the median over the runs; ratios are taken within each run, then their median. "
                    "Time is wall-clock time.")
@@ -295,7 +339,9 @@ def main():
 
     out.append("## How to read the tables\n")
     out.append("- Mpixel/s is millions of pixels per second (one sample per pixel in these members).")
-    out.append("- Library / OpenCV above 1 means the library is faster.")
+    out.append("- Library / OpenCV above 1 means the library is faster. Each level's ratio is taken within "
+               "its own runs, against OpenCV measured back to back in the same run; the OpenCV column shows "
+               f"the rate of the runs at `{loader}`.")
     out.append("- Bytes moved per call are every source image plus the destination, each counted once. The "
                "fraction of copy bandwidth is the member's bytes moved per second divided by those of a "
                "64 MiB memcpy (source plus destination) with the same number of threads in the same run. It "
@@ -340,7 +386,7 @@ def main():
                    f"{median(ratio_ranges or [0]):.0%} (median; largest {max(ratio_ranges or [0]):.0%}). "
                    "Read rates as approximate; the list of members slower than OpenCV says in how many "
                    "runs each one was slower.")
-    out.append(f"{noisy_rows} row(s) are marked `*`.\n")
+    out.append(f"{noisy_rows} row(s) are marked `*` at `{loader}`.\n")
 
     out.append("## Memory bandwidth reference\n")
     out.append("| Operation | Threads | GB/s |")
@@ -384,9 +430,13 @@ def main():
         out.append("")
 
     out.append("## Slower than OpenCV\n")
+    for l, k in slower_at.items():
+        out.append(f"- At `{l}`: {k} row(s) below 1.")
+    if slower_at:
+        out.append("")
     if slower:
-        out.append("Members whose median ratio is below 1. A member slower in only some of the runs is "
-                   "close to a tie on this machine.\n")
+        out.append(f"At `{loader}`, the level the loader picks here: members whose median ratio is below 1. "
+                   "A member slower in only some of the runs is close to a tie on this machine.\n")
         out.append("| Member | Arguments | Size | Threads | Library / OpenCV | Slower in runs |")
         out.append("|---|---|---|---|---:|---|")
         for member, variant, w, h, t, ratio, k, n in slower:
